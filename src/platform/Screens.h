@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QPointF>
+#include <QRectF>
+
+/// One screen. Points in desktop coordinates, origin at the top left, y growing downwards.
+struct Screen {
+    QRectF frame;
+    /// The frame without panels and docks.
+    QRectF visibleFrame;
+};
+
+/// The screens and the mouse pointer. Main thread only.
+class Screens {
+public:
+    virtual ~Screens() = default;
+
+    /// In the system's order, the main screen first.
+    virtual QList<Screen> screens() const = 0;
+
+    virtual QPointF mouseLocation() const = 0;
+};
