@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "platform/freedesktop/IniPreferences.h"
+
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+IniPreferences::IniPreferences(const QString &path)
+    : m_settings(path, QSettings::IniFormat)
+{
+}
+
+QString IniPreferences::defaultPath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/Quillo/Quillo.conf"_s;
+}
+
+std::optional<QByteArray> IniPreferences::data(const QString &key) const
+{
+    const QVariant stored = value(key);
+    return stored.typeId() == QMetaType::QByteArray ? std::optional(stored.toByteArray()) : std::nullopt;
+}
+
+std::optional<QString> IniPreferences::string(const QString &key) const
+{
+    const QVariant stored = value(key);
+    return stored.typeId() == QMetaType::QString ? std::optional(stored.toString()) : std::nullopt;
+}
+
+bool IniPreferences::boolean(const QString &key) const
+{
+    const QString stored = value(key).toString();
+    return stored == u"true" || stored == u"1";
+}
+
+void IniPreferences::setData(const QString &key, const QByteArray &value)
+{
+    write(key, value);
+}
+
+void IniPreferences::setString(const QString &key, const QString &value)
+{
+    write(key, value);
+}
+
+void IniPreferences::setBoolean(const QString &key, bool value)
+{
+    write(key, value);
+}
+
+void IniPreferences::remove(const QString &key)
+{
+    m_settings.remove(key);
+    m_settings.sync();
+}
+
+QVariant IniPreferences::value(const QString &key) const
+{
+    m_settings.sync();
+    return m_settings.value(key);
+}
+
+void IniPreferences::write(const QString &key, const QVariant &value)
+{
+    m_settings.setValue(key, value);
+    m_settings.sync();
+}
