@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: MIT
+#include "audio/AudioDecoder.h"
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
+#include <libavutil/channel_layout.h>
+#include <libswresample/swresample.h>
+}
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <new>
+
+namespace {
+
+template <auto Free> struct Deleter {
+    template <class T> void operator()(T *object) const { Free(&object); }
+};
+
+void freeInput(AVIOContext **context)
+{
+    av_freep(&(*context)->buffer);
+    avio_context_free(context);
+}
+
+using Input = std::unique_ptr<AVIOContext, Deleter<freeInput>>;
+using Format = std::unique_ptr<AVFormatContext, Deleter<avformat_close_input>>;
+using Codec = std::unique_ptr<AVCodecContext, Deleter<avcodec_free_context>>;
+using Packet = std::unique_ptr<AVPacket, Deleter<av_packet_free>>;
+using Frame = std::unique_ptr<AVFrame, Deleter<av_frame_free>>;
+using Converter = std::unique_ptr<SwrContext, Deleter<swr_free>>;
+
+struct MemoryFile {
+    std::string_view data;
+    int64_t position = 0;
+};
+
+int readMemory(void *opaque, uint8_t *target, int size)
+{
+    auto &file = *static_cast<MemoryFile *>(opaque);
+    const auto left = static_cast<int64_t>(file.data.size()) - file.position;
+    const auto count = static_cast<int>(std::min<int64_t>(left, size));
+    if (count <= 0) {
+        return AVERROR_EOF;
+    }
+    std::memcpy(target, file.data.data() + file.position, static_cast<size_t>(count));
+    file.position += count;
+    return count;
+}
+
+int64_t seekMemory(void *opaque, int64_t offset, int whence)
+{
+    auto &file = *static_cast<MemoryFile *>(opaque);
+    const auto size = static_cast<int64_t>(file.data.size());
+    switch (whence & ~AVSEEK_FORCE) {
+    case AVSEEK_SIZE:
+        return size;
+    case SEEK_SET:
+        break;
+    case SEEK_CUR:
+        offset += file.position;
+        break;
+    case SEEK_END:
+        offset += size;
+        break;
+    default:
+        return AVERROR(EINVAL);
+    }
+    if (offset < 0 || offset > size) {
+        return AVERROR(EINVAL);
+    }
+    return file.position = offset;
+}
+
+/// A file may name other files as its media; none is ever opened.
+int refuseToOpen(AVFormatContext *, AVIOContext **, const char *, int, AVDictionary **)
+{
+    return AVERROR(EACCES);
+}
+
+[[noreturn]] void unsupported(const char *reason)
+{
+    throw AudioError(AudioError::Kind::Unsupported, reason);
+}
+
+Format openFormat(const Input &input)
+{
+    auto *context = avformat_alloc_context();
+    if (!context) {
+        throw std::bad_alloc();
+    }
+    context->pb = input.get();
+    context->io_open = refuseToOpen;
+    // Frees the context when it fails. Only this demuxer: whatever else libavformat could probe for is refused.
+    if (avformat_open_input(&context, "", av_find_input_format("mov"), nullptr) < 0) {
+        unsupported("not an MPEG-4 file");
+    }
+    return Format(context);
+}
+
+/// Converts decoded frames to `Samples`, and counts them against the limit.
+class Resampler {
+public:
+    explicit Resampler(size_t limit) : m_limit(limit) {}
+
+    void add(const AVFrame &frame)
+    {
+        if (!m_converter || frame.sample_rate != m_rate || frame.format != m_format ||
+            frame.ch_layout.nb_channels != m_channels) {
+            flush();
+            restart(frame);
+        }
+        convert(const_cast<const uint8_t **>(frame.extended_data), frame.nb_samples);
+    }
+
+    void flush()
+    {
+        if (m_converter) {
+            convert(nullptr, 0);
+        }
+    }
+
+    Samples take() { return std::move(m_samples); }
+
+private:
+    void restart(const AVFrame &frame)
+    {
+        // Not const, and the frame's copied: libswresample 4 takes both as variables.
+        AVChannelLayout mono = AV_CHANNEL_LAYOUT_MONO;
+        auto layout = frame.ch_layout;
+        SwrContext *converter = nullptr;
+        swr_alloc_set_opts2(&converter, &mono, AV_SAMPLE_FMT_S16, speechRate, &layout,
+                            static_cast<AVSampleFormat>(frame.format), frame.sample_rate, 0, nullptr);
+        m_converter.reset(converter);
+        if (!m_converter || swr_init(m_converter.get()) < 0) {
+            unsupported("the samples can't be converted");
+        }
+        m_rate = frame.sample_rate;
+        m_format = frame.format;
+        m_channels = frame.ch_layout.nb_channels;
+    }
+
+    void convert(const uint8_t **data, int count)
+    {
+        const auto room = swr_get_out_samples(m_converter.get(), count);
+        const auto before = m_samples.size();
+        m_samples.resize(before + static_cast<size_t>(std::max(room, 0)));
+        auto *target = reinterpret_cast<uint8_t *>(m_samples.data() + before);
+        const auto written = swr_convert(m_converter.get(), &target, room, data, count);
+        m_samples.resize(before + static_cast<size_t>(std::max(written, 0)));
+        if (m_samples.size() > m_limit) {
+            throw AudioError(AudioError::Kind::TooLong, "longer than the limit");
+        }
+    }
+
+    size_t m_limit;
+    Converter m_converter;
+    int m_rate = 0;
+    int m_format = -1;
+    int m_channels = 0;
+    Samples m_samples;
+};
+
+Codec openCodec(const AVStream &stream)
+{
+    const auto *decoder = avcodec_find_decoder(AV_CODEC_ID_AAC);
+    Codec codec(avcodec_alloc_context3(decoder));
+    if (stream.codecpar->codec_id != AV_CODEC_ID_AAC || !codec ||
+        avcodec_parameters_to_context(codec.get(), stream.codecpar) < 0 ||
+        avcodec_open2(codec.get(), decoder, nullptr) < 0) {
+        unsupported("not AAC");
+    }
+    return codec;
+}
+
+/// `packet` is null at the end of the stream. A damaged packet is left out, as a player would.
+void decodePacket(AVCodecContext &codec, const AVPacket *packet, AVFrame &frame, Resampler &resampler)
+{
+    if (avcodec_send_packet(&codec, packet) < 0) {
+        return;
+    }
+    while (avcodec_receive_frame(&codec, &frame) >= 0) {
+        resampler.add(frame);
+    }
+}
+
+} // namespace
+
+Samples decodeAudio(std::string_view file, std::chrono::seconds longest)
+{
+    av_log_set_level(AV_LOG_QUIET);
+    constexpr int bufferSize = 32 * 1024;
+    MemoryFile memory{file};
+    const Input input(avio_alloc_context(static_cast<uint8_t *>(av_malloc(bufferSize)), bufferSize, 0, &memory,
+                                         readMemory, nullptr, seekMemory));
+    const Packet packet(av_packet_alloc());
+    const Frame frame(av_frame_alloc());
+    if (!input || !packet || !frame) {
+        throw std::bad_alloc();
+    }
+    const auto format = openFormat(input);
+    const auto stream = av_find_best_stream(format.get(), AVMEDIA_TYPE_AUDIO, -1, -1, nullptr, 0);
+    if (stream < 0) {
+        unsupported("no audio track");
+    }
+    const auto codec = openCodec(*format->streams[stream]);
+    Resampler resampler(static_cast<size_t>(longest.count()) * speechRate);
+    while (av_read_frame(format.get(), packet.get()) >= 0) {
+        if (packet->stream_index == stream) {
+            decodePacket(*codec, packet.get(), *frame, resampler);
+        }
+        av_packet_unref(packet.get());
+    }
+    decodePacket(*codec, nullptr, *frame, resampler);
+    resampler.flush();
+    auto samples = resampler.take();
+    if (samples.empty()) {
+        unsupported("nothing could be decoded");
+    }
+    return samples;
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "http/Server.h"
+
+#include <boost/beast/core/flat_buffer.hpp>
+#include <boost/beast/core/tcp_stream.hpp>
+#include <boost/beast/http/parser.hpp>
+#include <boost/beast/http/string_body.hpp>
+
+#include <optional>
+
+/// One client's connection: its requests, one after the other. I/O thread only.
+class Connection {
+public:
+    Connection(net::ip::tcp::socket socket, RequestHandler &handler, const ServerLimits &limits,
+               const Server::AccessLog &log);
+
+    /// Serves requests until the client or finish() ends it, or a limit is broken. Does not throw.
+    net::awaitable<void> run();
+
+    /// Ends the connection: at once when no request is on its way, otherwise after its reply.
+    void finish();
+
+private:
+    using Parser = boost::beast::http::request_parser<boost::beast::http::string_body>;
+
+    net::awaitable<void> serveOne();
+    net::awaitable<void> waitForRequest();
+    /// The reply to a request that is malformed or too large, or nothing when it was read whole.
+    net::awaitable<std::optional<Reply>> read(Parser &parser);
+    net::awaitable<void> allowBody(const Parser &parser);
+    net::awaitable<bool> write(const Reply &reply, unsigned version);
+    net::awaitable<void> close();
+    bool isConnected();
+
+    boost::beast::tcp_stream m_stream;
+    boost::beast::flat_buffer m_buffer;
+    RequestHandler &m_handler;
+    const ServerLimits &m_limits;
+    const Server::AccessLog &m_log;
+    bool m_idle = true;
+    bool m_last = false;
+};

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "support/Asio.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+class QJsonObject;
+
+/// One request, read whole. It outlives the coroutine that handles it.
+struct Request {
+    std::string method;
+    std::string path; ///< without the query
+    std::string authorization;
+    std::string contentType;
+    std::string body;
+    /// Whether the client still waits for the reply; any thread.
+    std::function<bool()> connected;
+};
+
+struct Reply {
+    unsigned status = 200;
+    std::string contentType = "application/json";
+    std::string body;
+    std::vector<std::pair<std::string, std::string>> headers;
+    /// What the access log names instead of the path, which may hold a checkout link's token.
+    std::string route = "-";
+    /// Called when the reply could not be sent.
+    std::function<net::awaitable<void>()> undelivered;
+};
+
+/// A request that is answered with an error document. Both texts are literals.
+class Refusal {
+public:
+    Refusal(unsigned status, std::string_view code, std::string_view message)
+        : m_status(status), m_code(code), m_message(message)
+    {
+    }
+
+    Reply reply() const;
+
+    static Refusal badRequest() { return {400, "bad_request", "The request could not be understood."}; }
+    static Refusal unauthorized() { return {401, "unauthorized", "This device is not known."}; }
+    static Refusal insufficientTokens() { return {402, "insufficient_tokens", "You're out of tokens."}; }
+    static Refusal notFound() { return {404, "not_found", "There is nothing at this address."}; }
+    static Refusal methodNotAllowed() { return {405, "method_not_allowed", "This can't be done here."}; }
+    static Refusal tooLarge() { return {413, "payload_too_large", "This recording is too long."}; }
+    static Refusal unsupportedAudio() { return {415, "unsupported_audio", "This recording could not be read."}; }
+    static Refusal serverError() { return {500, "server_error", "Something went wrong. Please try again."}; }
+    static Refusal engineUnavailable()
+    {
+        return {503, "engine_unavailable", "Transcription is unavailable right now. Please try again later."};
+    }
+
+private:
+    unsigned m_status;
+    std::string_view m_code;
+    std::string_view m_message;
+};
+
+Reply jsonReply(const QJsonObject &document, unsigned status = 200);
+
+/// What a server does with its requests; called on the I/O thread.
+class RequestHandler {
+public:
+    virtual ~RequestHandler() = default;
+
+    /// The most bytes that a body for this path may have.
+    virtual size_t bodyLimit(std::string_view path) const = 0;
+
+    /// Never fails: what goes wrong is a reply too.
+    virtual net::awaitable<Reply> handle(const Request &request) = 0;
+};

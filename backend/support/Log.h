@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string_view>
+
+/// Writes one line for the operator to the standard error stream; any thread. Callers keep secrets, audio and text out.
+void logLine(std::string_view line);

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <boost/asio/connect.hpp>
+#include <boost/asio/io_context.hpp>
+#include <boost/asio/ip/tcp.hpp>
+#include <boost/asio/write.hpp>
+#include <boost/beast/core/flat_buffer.hpp>
+#include <boost/beast/http.hpp>
+
+#include <string>
+#include <string_view>
+
+struct HttpAnswer {
+    unsigned status = 0;
+    std::string contentType;
+    std::string body;
+
+    QJsonObject json() const { return QJsonDocument::fromJson(QByteArray::fromStdString(body)).object(); }
+    std::string error() const { return json()[QLatin1String("error")].toString().toStdString(); }
+    qint64 balance() const { return json()[QLatin1String("balance")].toInteger(-1); }
+};
+
+/// One blocking connection to a server on loopback.
+class HttpClient {
+public:
+    explicit HttpClient(uint16_t port) { m_socket.connect({boost::asio::ip::address_v4::loopback(), port}); }
+
+    /// `headers` are whole lines with their ends.
+    HttpAnswer send(std::string_view method, std::string_view path, std::string_view headers = {},
+                    std::string_view body = {})
+    {
+        auto message = std::string(method) + " " + std::string(path) + " HTTP/1.1\r\nHost: test\r\n";
+        message += headers;
+        message += "Content-Length: " + std::to_string(body.size()) + "\r\n\r\n";
+        return sendRaw(message + std::string(body));
+    }
+
+    HttpAnswer sendRaw(std::string_view message)
+    {
+        write(message);
+        return receive();
+    }
+
+    void write(std::string_view message) { boost::asio::write(m_socket, boost::asio::buffer(message)); }
+
+    HttpAnswer receive()
+    {
+        boost::beast::http::response<boost::beast::http::string_body> response;
+        boost::beast::http::read(m_socket, m_buffer, response);
+        const auto type = response[boost::beast::http::field::content_type];
+        return {response.result_int(), {type.data(), type.size()}, response.body()};
+    }
+
+    /// Waits for the server; true when it closed without another byte.
+    bool isClosedByServer()
+    {
+        char next = 0;
+        boost::system::error_code error;
+        return m_socket.read_some(boost::asio::buffer(&next, 1), error) == 0 && error;
+    }
+
+    void close() { m_socket.close(); }
+
+private:
+    boost::asio::io_context m_io;
+    boost::asio::ip::tcp::socket m_socket{m_io};
+    boost::beast::flat_buffer m_buffer;
+};
+
+inline std::string multipart(std::string_view file)
+{
+    return "--b\r\nContent-Disposition: form-data; name=\"file\"; filename=\"dictation.m4a\"\r\n"
+           "Content-Type: audio/mp4\r\n\r\n" +
+           std::string(file) + "\r\n--b--\r\n";
+}
+
+inline constexpr std::string_view multipartHeader = "Content-Type: multipart/form-data; boundary=b\r\n";
