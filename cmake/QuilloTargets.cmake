@@ -3,7 +3,8 @@
 
 add_library(quillo_options INTERFACE)
 target_compile_options(quillo_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
+    -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
+    $<$<NOT:$<BOOL:$<TARGET_PROPERTY:QUILLO_HAS_COMPILED_QML>>>:-Wshadow> # what qmlcachegen writes shadows
     $<$<BOOL:${QUILLO_WARNINGS_AS_ERRORS}>:-Werror>)
 target_compile_definitions(quillo_options INTERFACE
     QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH)

@@ -7,6 +7,8 @@
 /// The program's own vocabulary of keys and modifiers: the virtual key codes and masks that shortcuts are stored in.
 /// Backends translate at their edge.
 namespace KeyCode {
+inline constexpr uint32_t h = 4;
+inline constexpr uint32_t g = 5;
 inline constexpr uint32_t v = 9;
 inline constexpr uint32_t space = 49;
 inline constexpr uint32_t escape = 53;

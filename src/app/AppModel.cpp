@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: MIT
+#include "app/AppModel.h"
+
+#include "platform/Accessibility.h"
+#include "platform/KeyCodes.h"
+#include "platform/Platform.h"
+#include "platform/Preferences.h"
+#include "service/AIConsent.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+const QString shortcutKey = u"shortcut.v2"_s;
+const QString triggerModeKey = u"triggerMode"_s;
+const QString groupShortcutKey = u"groupShortcut"_s;
+const QString historyShortcutKey = u"historyShortcut"_s;
+
+constexpr auto permissionWatchPeriod = 2000ms;
+
+constexpr uint32_t controlOption = HotKeyModifier::control | HotKeyModifier::option;
+
+Shortcut storedShortcut(const Preferences &preferences, const QString &key, const Shortcut &fallback)
+{
+    return Shortcut::fromJson(preferences.data(key).value_or(QByteArray())).value_or(fallback);
+}
+
+TriggerMode storedTriggerMode(const Preferences &preferences)
+{
+    const auto stored = preferences.string(triggerModeKey);
+    const auto *const found =
+        std::ranges::find_if(triggerModes(), [&](const TriggerModeInfo &mode) { return stored == mode.rawValue; });
+    return found == triggerModes().end() ? TriggerMode::Both : found->mode;
+}
+
+std::optional<QString> conflict(bool isArmed, const Shortcut &shortcut)
+{
+    return isArmed ? std::nullopt
+                   : std::optional(shortcut.label() + u" is already in use. Pick a different shortcut.");
+}
+
+} // namespace
+
+AppModel::AppModel(const Platform &platform, ApiClient &client, AIConsent &consent,
+                   RecordingHUD::PanelFactory makePanel)
+    : m_platform(platform)
+    , m_clock(platform.clock)
+    , m_client(client)
+    , m_consent(consent)
+    , m_freeGrantMissed(platform.preferences.boolean(u"freeGrantMissed"_s))
+    , m_isTrusted(platform.accessibility.isTrusted())
+    , m_shortcut(storedShortcut(platform.preferences, shortcutKey,
+                                Shortcut::combo(KeyCode::space, controlOption, u"Space"_s)))
+    , m_triggerMode(storedTriggerMode(platform.preferences))
+    , m_groupShortcut(
+          storedShortcut(platform.preferences, groupShortcutKey, Shortcut::combo(KeyCode::g, controlOption, u"G"_s)))
+    , m_historyShortcut(
+          storedShortcut(platform.preferences, historyShortcutKey, Shortcut::combo(KeyCode::h, controlOption, u"H"_s)))
+    , m_store(platform.files, platform.clock)
+    , m_groups(platform.files, platform.preferences)
+    , m_recorder(platform.microphone, platform.files)
+    , m_inserter(platform.pasteboard, platform.keyEvents, platform.accessibility, platform.clock)
+    , m_hud(platform.clock, platform.screens, std::move(makePanel))
+    , m_monitor(platform.hotKeys, platform.keyMonitors, [this](ShortcutEvent event) { handle(event); })
+{
+    m_microphone = m_recorder.permission();
+}
+
+AppModel::~AppModel()
+{
+    m_recorder.cancel();
+    std::ranges::for_each(m_uploads, &AudioRecorder::discard);
+}
+
+void AppModel::start()
+{
+    m_hud.model().setOnBuyTokens([this] {
+        m_hud.hide();
+        buyTokens();
+    });
+    armShortcut();
+    armWindowShortcuts();
+    watchPermissions();
+    if (m_consent.isCurrent()) {
+        refreshBalance();
+    }
+}
+
+void AppModel::setShortcut(const Shortcut &shortcut)
+{
+    m_shortcut = shortcut;
+    m_platform.preferences.setData(shortcutKey, shortcut.toJson());
+    armShortcut();
+    if (shortcut.asModifier() != nullptr && !m_isTrusted) {
+        m_platform.accessibility.promptForTrust();
+    }
+    Q_EMIT shortcutsChanged();
+    Q_EMIT statusTextChanged();
+}
+
+void AppModel::setTriggerMode(TriggerMode mode)
+{
+    m_triggerMode = mode;
+    m_platform.preferences.setString(triggerModeKey, info(mode).rawValue.toString());
+    Q_EMIT shortcutsChanged();
+    Q_EMIT statusTextChanged();
+}
+
+void AppModel::setGroupShortcut(const Shortcut &shortcut)
+{
+    m_groupShortcut = shortcut;
+    m_platform.preferences.setData(groupShortcutKey, shortcut.toJson());
+    armWindowShortcuts();
+    Q_EMIT shortcutsChanged();
+}
+
+void AppModel::setHistoryShortcut(const Shortcut &shortcut)
+{
+    m_historyShortcut = shortcut;
+    m_platform.preferences.setData(historyShortcutKey, shortcut.toJson());
+    armWindowShortcuts();
+    Q_EMIT shortcutsChanged();
+}
+
+void AppModel::armShortcut()
+{
+    const bool isArmed = m_monitor.activate(m_shortcut);
+    m_shortcutError = isArmed
+        ? std::nullopt
+        : std::optional(m_shortcut.label() + u" is already used by another app. Pick a different shortcut.");
+    Q_EMIT shortcutErrorsChanged();
+}
+
+void AppModel::armWindowShortcuts()
+{
+    m_groupHotKey.reset();
+    m_historyHotKey.reset();
+    m_groupHotKey = armWindowShortcut(m_groupShortcut, [this] { cycleGroup(true); });
+    m_historyHotKey = armWindowShortcut(m_historyShortcut, [this] { Q_EMIT historyToggled(); });
+    m_groupShortcutError = conflict(m_groupHotKey != nullptr, m_groupShortcut);
+    m_historyShortcutError = conflict(m_historyHotKey != nullptr, m_historyShortcut);
+    Q_EMIT shortcutErrorsChanged();
+}
+
+std::unique_ptr<CarbonHotKey> AppModel::armWindowShortcut(const Shortcut &shortcut, std::function<void()> action)
+{
+    const Shortcut::Combo *combo = shortcut.asCombo();
+    if (combo == nullptr) {
+        return nullptr;
+    }
+    return CarbonHotKey::create(m_platform.hotKeys, combo->keyCode, combo->modifiers,
+                                [action = std::move(action)](bool pressed) {
+                                    if (pressed) {
+                                        action();
+                                    }
+                                });
+}
+
+void AppModel::cycleGroup(bool forward)
+{
+    m_groups.cycle(forward);
+    if (m_state.value == State::Case::Idle) {
+        const auto group = m_groups.group(m_groups.activeId());
+        m_hud.show(HUDPhase::Group{group ? group->name : u"All entries"_s});
+    }
+}
+
+void AppModel::watchPermissions()
+{
+    m_trustTimer = m_clock.every(permissionWatchPeriod, [this] { checkPermissions(); });
+}
+
+void AppModel::checkPermissions()
+{
+    const AudioRecorder::Permission microphone = m_recorder.permission();
+    if (microphone != m_microphone) {
+        m_microphone = microphone;
+        Q_EMIT permissionsChanged();
+    }
+    const bool isTrusted = m_platform.accessibility.isTrusted();
+    if (isTrusted != m_isTrusted) {
+        m_isTrusted = isTrusted;
+        armShortcut();
+        Q_EMIT permissionsChanged();
+    }
+}

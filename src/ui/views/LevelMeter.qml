@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+
+// A row of bars that rise with the microphone's level.
+Row {
+    id: meter
+
+    property real level: 0
+    property var weights: []
+
+    spacing: 2
+    height: 18
+
+    Repeater {
+        model: meter.weights
+
+        Rectangle {
+            required property real modelData
+
+            anchors.verticalCenter: parent.verticalCenter
+            width: 3
+            height: meter.level * 14 * modelData + 4
+            radius: 1.5
+            color: Qt.rgba(1, 1, 1, 0.9)
+
+            Behavior on height {
+                NumberAnimation { duration: 80 }
+            }
+        }
+    }
+}

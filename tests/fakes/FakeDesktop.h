@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Accessibility.h"
+#include "platform/PackagedInfo.h"
+#include "platform/Screens.h"
+#include "platform/StatusPanel.h"
+#include "platform/Workspace.h"
+
+#include <QMap>
+#include <QWindow>
+
+#include <optional>
+
+class FakeAccessibility : public Accessibility {
+public:
+    bool isTrusted() const override { return trusted; }
+    void promptForTrust() override { ++prompts; }
+
+    bool trusted = true;
+    int prompts = 0;
+};
+
+class FakePackagedInfo : public PackagedInfo {
+public:
+    std::optional<QString> string(const QString &key) const override
+    {
+        return values.contains(key) ? std::optional(values.value(key)) : std::nullopt;
+    }
+
+    QMap<QString, QString> values;
+};
+
+class FakeScreens : public Screens {
+public:
+    QList<Screen> screens() const override { return all; }
+    QPointF mouseLocation() const override { return pointer; }
+
+    QList<Screen> all{{QRectF(0, 0, 1280, 720), QRectF(0, 24, 1280, 696)}};
+    QPointF pointer{100, 100};
+};
+
+class FakeWorkspace : public Workspace {
+public:
+    bool open(const QUrl &url) override
+    {
+        opened.append(url);
+        return true;
+    }
+    bool openPrivacySettings(PrivacyPane pane) override
+    {
+        openedPane = pane;
+        return true;
+    }
+
+    QList<QUrl> opened;
+    std::optional<PrivacyPane> openedPane;
+};
+
+/// What became of a status panel; it outlives the panel.
+struct PanelRecord {
+    bool isVisible = false;
+    bool ignoresMouse = false;
+    QPointF origin;
+    QRectF outline;
+};
+
+class FakeStatusPanel : public StatusPanel {
+public:
+    explicit FakeStatusPanel(PanelRecord &record)
+        : m_record(record)
+    {
+    }
+
+    QSizeF size() const override { return {280, 56}; }
+    void setIgnoresMouseEvents(bool ignores) override { m_record.ignoresMouse = ignores; }
+    void setFrameOrigin(QPointF origin) override { m_record.origin = origin; }
+    void setOutline(const QRectF &capsule) override { m_record.outline = capsule; }
+    void orderFrontRegardless() override { m_record.isVisible = true; }
+    void orderOut() override { m_record.isVisible = false; }
+
+private:
+    PanelRecord &m_record;
+};
+
+class FakeStatusPanels : public StatusPanels {
+public:
+    std::unique_ptr<StatusPanel> adopt(std::unique_ptr<QWindow> content) override
+    {
+        adopted = std::move(content);
+        return std::make_unique<FakeStatusPanel>(record);
+    }
+
+    std::unique_ptr<QWindow> adopted;
+    PanelRecord record;
+};

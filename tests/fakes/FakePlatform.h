@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "FakeClock.h"
+#include "FakeDesktop.h"
+#include "FakeFiles.h"
+#include "FakeHotKeys.h"
+#include "FakeKeyEvents.h"
+#include "FakeKeyMonitors.h"
+#include "FakeMicrophone.h"
+#include "FakePasteboard.h"
+#include "FakePreferences.h"
+#include "FakeSecretStore.h"
+
+#include "platform/Platform.h"
+
+/// A whole desktop of fakes.
+struct FakePlatform {
+    FakeAccessibility accessibility;
+    FakeClock clock;
+    FakeFiles files;
+    FakeHotKeys hotKeys;
+    FakeKeyEvents keyEvents;
+    FakeKeyMonitors keyMonitors;
+    FakeMicrophone microphone;
+    FakePackagedInfo packagedInfo;
+    FakePasteboard pasteboard;
+    FakePreferences preferences;
+    FakeScreens screens;
+    FakeSecretStore secrets;
+    FakeStatusPanels statusPanels;
+    FakeWorkspace workspace;
+
+    Platform platform{accessibility, clock,      files,       hotKeys, keyEvents, keyMonitors,  microphone,
+                      packagedInfo,  pasteboard, preferences, screens, secrets,   statusPanels, workspace};
+};

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/SecretStore.h"
+
+#include <QMap>
+#include <QPair>
+
+/// Secrets in memory, or none at all.
+class FakeSecretStore : public SecretStore {
+public:
+    QCoro::Task<std::optional<QByteArray>> read(QString service, QString account) override
+    {
+        const auto found = items.constFind({service, account});
+        co_return found == items.constEnd() ? std::nullopt : std::optional(*found);
+    }
+
+    QCoro::Task<bool> add(QString service, QString account, QByteArray secret) override
+    {
+        if (isAvailable) {
+            items.insert({service, account}, secret);
+        }
+        co_return isAvailable;
+    }
+
+    QCoro::Task<bool> remove(QString service, QString account) override
+    {
+        items.remove({service, account});
+        co_return isAvailable;
+    }
+
+    QMap<QPair<QString, QString>, QByteArray> items;
+    bool isAvailable = true;
+};
