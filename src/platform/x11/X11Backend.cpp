@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/X11Backend.h"
+
+#include "platform/x11/QtScreens.h"
+#include "platform/x11/X11Accessibility.h"
+#include "platform/x11/X11Connection.h"
+#include "platform/x11/X11HotKeys.h"
+#include "platform/x11/X11KeyEvents.h"
+#include "platform/x11/X11KeyMonitors.h"
+#include "platform/x11/X11Keymap.h"
+#include "platform/x11/X11Pasteboard.h"
+#include "platform/x11/X11StatusPanels.h"
+
+#include <QGuiApplication>
+
+struct X11Backend::Parts {
+    Parts(std::unique_ptr<X11Connection> opened, std::unique_ptr<X11Keymap> layout,
+          std::unique_ptr<X11Pasteboard> clipboard, const QStringList &terminalClasses)
+        : connection(std::move(opened)),
+          keymap(std::move(layout)),
+          pasteboard(std::move(clipboard)),
+          hotKeys(*connection, *keymap),
+          keyMonitors(*connection, *keymap, [] { return QGuiApplication::focusWindow() != nullptr; }),
+          keyEvents(*connection, *keymap, terminalClasses),
+          statusPanels(*connection),
+          accessibility(*connection)
+    {
+    }
+
+    std::unique_ptr<X11Connection> connection;
+    std::unique_ptr<X11Keymap> keymap;
+    std::unique_ptr<X11Pasteboard> pasteboard;
+    X11HotKeys hotKeys;
+    X11KeyMonitors keyMonitors;
+    X11KeyEvents keyEvents;
+    X11StatusPanels statusPanels;
+    X11Accessibility accessibility;
+    QtScreens screens;
+};
+
+std::unique_ptr<X11Backend> X11Backend::create(Clock &clock, const QStringList &terminalClasses, QString *whyNot)
+{
+    auto connection = X11Connection::create();
+    if (!connection) {
+        *whyNot = QStringLiteral("there is no X server at $DISPLAY");
+        return nullptr;
+    }
+    auto keymap = X11Keymap::create(*connection);
+    if (!keymap) {
+        *whyNot = QStringLiteral("the X server has no keyboard extension (XKB)");
+        return nullptr;
+    }
+    auto pasteboard = X11Pasteboard::create(clock);
+    if (!pasteboard) {
+        *whyNot = QStringLiteral("the X server has no XFIXES extension");
+        return nullptr;
+    }
+    return std::unique_ptr<X11Backend>(new X11Backend(
+        std::make_unique<Parts>(std::move(connection), std::move(keymap), std::move(pasteboard), terminalClasses)));
+}
+
+X11Backend::X11Backend(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) {}
+
+X11Backend::~X11Backend() = default;
+
+HotKeys &X11Backend::hotKeys()
+{
+    return m_parts->hotKeys;
+}
+
+KeyMonitors &X11Backend::keyMonitors()
+{
+    return m_parts->keyMonitors;
+}
+
+KeyEvents &X11Backend::keyEvents()
+{
+    return m_parts->keyEvents;
+}
+
+Pasteboard &X11Backend::pasteboard()
+{
+    return *m_parts->pasteboard;
+}
+
+StatusPanels &X11Backend::statusPanels()
+{
+    return m_parts->statusPanels;
+}
+
+Screens &X11Backend::screens()
+{
+    return m_parts->screens;
+}
+
+Accessibility &X11Backend::accessibility()
+{
+    return m_parts->accessibility;
+}
+
+void X11Backend::setClosedHandler(std::function<void()> handler)
+{
+    QObject::connect(m_parts->connection.get(), &X11Connection::closed, std::move(handler));
+}
