@@ -39,7 +39,7 @@ TriggerMode storedTriggerMode(const Preferences &preferences)
 std::optional<QString> conflict(bool isArmed, const Shortcut &shortcut)
 {
     return isArmed ? std::nullopt
-                   : std::optional(shortcut.label() + u" is already in use. Pick a different shortcut.");
+                   : std::optional(shortcut.label() + u" is already in use. Pick a different shortcut."_s);
 }
 
 } // namespace
@@ -130,7 +130,7 @@ void AppModel::armShortcut()
     const bool isArmed = m_monitor.activate(m_shortcut);
     m_shortcutError = isArmed
         ? std::nullopt
-        : std::optional(m_shortcut.label() + u" is already used by another app. Pick a different shortcut.");
+        : std::optional(m_shortcut.label() + u" is already used by another app. Pick a different shortcut."_s);
     Q_EMIT shortcutErrorsChanged();
 }
 

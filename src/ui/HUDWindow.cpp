@@ -4,10 +4,14 @@
 #include "platform/StatusPanel.h"
 #include "ui/HUDModel.h"
 
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
 
 using namespace Qt::StringLiterals;
+
+// Generated with the QML module. Naming it keeps the linker from dropping the registration out of the static library.
+extern void qml_register_types_Quillo(); // NOLINT(readability-identifier-naming)
 
 namespace {
 
@@ -39,6 +43,8 @@ private:
 
 std::unique_ptr<StatusPanel> makeHUDPanel(QQmlEngine &engine, StatusPanels &panels, HUDModel &model)
 {
+    [[maybe_unused]] void (*volatile const registration)() = &qml_register_types_Quillo;
+    engine.addImportPath(u"qrc:/qt/qml"_s);
     auto window = std::make_unique<QQuickView>(&engine, nullptr);
     window->setColor(Qt::transparent);
     window->setResizeMode(QQuickView::SizeRootObjectToView);

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#include "app/AppDelegate.h"
+
+#include "app/AppModel.h"
+#include "app/Composition.h"
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    // The shortcuts first: they are what the user may be waiting for.
+    m_composition.model().start();
+    m_composition.prepareViews();
+}

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+/// Which display the program runs on: $QUILLO_PLATFORM (x11 or wayland), else what the session offers.
+class DisplayChoice {
+public:
+    /// Points Qt at the display; to be called before the QGuiApplication exists. A sentence for the user when there is
+    /// no display the program can run on.
+    static std::optional<QString> prepare();
+};
