@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr size_t largestAnswer = 4 * 1024 * 1024;
+constexpr size_t largestAnswer = 4UL * 1024 * 1024;
 
 template <auto Free> struct Deleter {
     template <class T> void operator()(T *object) const { Free(object); }

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr size_t largestSmallBody = 16 * 1024;
+constexpr size_t largestSmallBody = 16'384;
 constexpr qsizetype longestPlatform = 32;
 constexpr std::string_view transcribePath = "/v1/transcribe";
 constexpr std::string_view checkoutPrefix = "/checkout/";

@@ -11,7 +11,7 @@
 struct ApiOptions {
     std::string publicUrl; ///< under which people reach this server, without a "/" at its end
     qint64 tokensPerSecond = 1;
-    size_t largestUpload = 32 * 1024 * 1024;
+    size_t largestUpload = 32UL * 1024 * 1024;
     /// The development provider: a checkout page that credits tokens at once, without a payment.
     bool manualCheckout = true;
 };

@@ -19,9 +19,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr size_t readAhead = 128 * 1024;
-constexpr uint32_t largestHeader = 16 * 1024;
-constexpr size_t mostDiscarded = 64 * 1024 * 1024;
+constexpr size_t readAhead = 128UL * 1024;
+constexpr uint32_t largestHeader = 16'384;
+constexpr size_t mostDiscarded = 64UL * 1024 * 1024;
 
 std::string text(beast::string_view view)
 {
@@ -190,7 +190,7 @@ net::awaitable<void> Connection::close()
     m_stream.expires_after(m_limits.linger);
     m_buffer.clear();
     for (size_t discarded = 0; !error && discarded < mostDiscarded;) {
-        const auto scratch = m_buffer.prepare(64 * 1024);
+        const auto scratch = m_buffer.prepare(65'536);
         discarded += co_await m_stream.async_read_some(scratch, net::redirect_error(net::use_awaitable, error));
     }
 }

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view lineEnd = "\r\n";
 constexpr size_t longestBoundary = 70; // RFC 2046
-constexpr size_t largestHeaders = 8 * 1024;
+constexpr size_t largestHeaders = 8192;
 
 /// The parameter `name` of a header value like `form-data; name="file"` whose first word is `kind`.
 std::optional<std::string> parameter(std::string_view value, std::string_view kind, std::string_view name)

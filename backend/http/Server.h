@@ -19,8 +19,8 @@ struct ServerLimits {
 };
 
 struct AccessRecord {
-    std::string method;
-    std::string route;
+    std::string method = "-";
+    std::string route = "-";
     unsigned status = 0;
     std::chrono::milliseconds duration{0};
 };

@@ -8,7 +8,7 @@
 namespace {
 
 // Twice as long as the desktop program watches for a purchase.
-constexpr qint64 lifetime = 30 * 60;
+constexpr qint64 lifetime = 1800;
 
 } // namespace
 
@@ -19,7 +19,7 @@ CheckoutLinks::CheckoutLinks(Database &database, Ledger &ledger, WallClock clock
 
 QByteArray CheckoutLinks::add(const QString &deviceId)
 {
-    const auto token = randomToken(32);
+    auto token = randomToken(32);
     const auto now = m_clock();
     Transaction transaction(m_database);
     m_database.execute(QStringLiteral("DELETE FROM checkout_links WHERE expires_at <= ?"), {now});

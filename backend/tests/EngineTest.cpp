@@ -17,7 +17,7 @@ namespace {
 /// Answers every request with `reply`, and keeps the last one.
 class Upstream : public RequestHandler {
 public:
-    size_t bodyLimit(std::string_view) const override { return 1024 * 1024; }
+    size_t bodyLimit(std::string_view) const override { return 1'000'000; }
     net::awaitable<Reply> handle(const Request &request) override
     {
         last = request;

@@ -18,7 +18,7 @@ class ProgramTest : public testing::Test {
 protected:
     QString write(const char *name, const QByteArray &content) const
     {
-        const auto path = folder.filePath(QString::fromLatin1(name));
+        auto path = folder.filePath(QString::fromLatin1(name));
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(content);

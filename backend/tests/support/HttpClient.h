@@ -64,6 +64,13 @@ public:
 
     void close() { m_socket.close(); }
 
+    /// Breaks the connection off instead of closing it.
+    void reset()
+    {
+        m_socket.set_option(boost::asio::socket_base::linger(true, 0));
+        m_socket.close();
+    }
+
 private:
     boost::asio::io_context m_io;
     boost::asio::ip::tcp::socket m_socket{m_io};
