@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QMap>
+#include <QObject>
+#include <QTcpServer>
+
+#include <functional>
+
+/// An HTTP server on loopback that answers as the test says and remembers what it was asked.
+class HttpServer : public QObject {
+public:
+    struct Request {
+        QByteArray method;
+        QByteArray path;
+        /// Names in lower case.
+        QMap<QByteArray, QByteArray> headers;
+        QByteArray body;
+    };
+
+    struct Response {
+        enum class Ending { Complete, CutInBody, CloseWithoutReply, NeverReply };
+
+        int status = 200;
+        QByteArray body = {};
+        Ending ending = Ending::Complete;
+        /// Whole header lines, each with its line break.
+        QByteArray headers = {};
+    };
+
+    HttpServer();
+
+    /// "http://127.0.0.1:PORT"
+    QString url() const;
+    const QList<Request> &requests() const { return m_requests; }
+    int count(const QByteArray &path) const;
+
+    std::function<Response(const Request &)> onRequest;
+
+private:
+    void accept();
+    void read(QTcpSocket &socket, QByteArray &received);
+    void answer(QTcpSocket &socket, const Request &request);
+
+    QTcpServer m_server;
+    QList<Request> m_requests;
+};
