@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "X11Fixture.h"
+#include "platform/KeyCodes.h"
+#include "platform/x11/TerminalClasses.h"
+#include "platform/x11/X11KeyEvents.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class KeyEventsTest : public X11Fixture {
+protected:
+    std::string paste()
+    {
+        keyEvents.post(KeyCode::v, true, EventFlag::command);
+        keyEvents.post(KeyCode::v, false, EventFlag::command);
+        return takeKeys();
+    }
+
+    /// What the focused window got by now of all that was posted.
+    std::string takeKeys()
+    {
+        connection->takeArrived([](const auto &) { return false; });
+        return user.takeKeys();
+    }
+
+    X11KeyEvents keyEvents{*connection, *keymap, TerminalClasses::defaults()};
+    xcb_window_t window = user.addWindow();
+};
+
+const std::string controlV = "+37/0 +55/4 -55/4 -37/4";
+const std::string controlShiftV = "+37/0 +50/4 +55/5 -55/5 -50/5 -37/4";
+
+TEST_F(KeyEventsTest, PasteGoesThroughTheKeyThatTypesV)
+{
+    const struct {
+        QString layouts;
+        QString variants;
+        uint8_t group;
+        int key;
+    } cases[] = {
+        {u"us"_s, {}, 0, KEY_V},
+        {u"us"_s, u"dvorak"_s, 0, KEY_DOT},
+        {u"us,us"_s, u",dvorak"_s, 1, KEY_DOT},
+        {u"us,ru"_s, {}, 1, KEY_V},
+        {u"ru"_s, {}, 0, KEY_V},
+        {u"us,ru"_s, u"dvorak,"_s, 1, KEY_DOT},
+    };
+    user.focus(window);
+    for (const auto &[layouts, variants, group, key] : cases) {
+        setLayout(layouts, variants);
+        user.lockGroup(group);
+        const auto v = std::to_string(key + 8);
+        EXPECT_EQ(paste(), "+37/0 +" + v + "/4 -" + v + "/4 -37/4") << qPrintable(layouts + variants);
+    }
+}
+
+TEST_F(KeyEventsTest, TerminalsGetShiftToo)
+{
+    const struct {
+        QByteArray windowClass;
+        std::string keys;
+    } cases[] = {
+        {QByteArrayLiteral("xterm\0XTerm\0"), controlShiftV},
+        {QByteArrayLiteral("gnome-terminal-server\0Gnome-terminal\0"), controlShiftV},
+        {QByteArrayLiteral("scratch\0Alacritty\0"), controlShiftV},
+        {QByteArrayLiteral("gedit\0Gedit\0"), controlV},
+        {QByteArrayLiteral("xterminal-notes\0Notes\0"), controlV},
+    };
+    for (const auto &[windowClass, keys] : cases) {
+        const auto topLevel = user.addWindow(windowClass);
+        user.focus(topLevel);
+        EXPECT_EQ(paste(), keys) << windowClass.constData();
+        user.focus(user.addWindow({}, topLevel)); // a window inside
+        EXPECT_EQ(paste(), keys) << windowClass.constData();
+    }
+}
+
+TEST_F(KeyEventsTest, ActiveWindowDecidesWhereTheFocusedOneHasNoClass)
+{
+    const auto terminal = user.addWindow(QByteArrayLiteral("xterm\0XTerm\0"));
+    xcb_change_property(user.xcb(), XCB_PROP_MODE_REPLACE, user.root(), user.atom("_NET_ACTIVE_WINDOW"),
+                        XCB_ATOM_WINDOW, 32, 1, &terminal);
+    user.focus(window);
+    EXPECT_EQ(paste(), controlShiftV);
+}
+
+TEST_F(KeyEventsTest, TerminalClassesAreTheGivenOnes)
+{
+    X11KeyEvents others(*connection, *keymap, {u"gedit"_s});
+    user.focus(user.addWindow(QByteArrayLiteral("gedit\0Gedit\0")));
+    others.post(KeyCode::v, true, EventFlag::command);
+    others.post(KeyCode::v, false, EventFlag::command);
+    EXPECT_EQ(takeKeys(), controlShiftV);
+}
+
+TEST_F(KeyEventsTest, UpReleasesWhatDownPressedThoughTheFocusMoved)
+{
+    user.focus(user.addWindow(QByteArrayLiteral("xterm\0XTerm\0")));
+    EXPECT_TRUE(keyEvents.post(KeyCode::v, true, EventFlag::command));
+    connection->takeArrived([](const auto &) { return false; });
+    user.focus(window);
+    EXPECT_TRUE(keyEvents.post(KeyCode::v, false, EventFlag::command));
+    EXPECT_EQ(takeKeys(), controlShiftV);
+    EXPECT_EQ(keyEvents.modifierFlags(), 0U);
+    EXPECT_FALSE(keyEvents.post(KeyCode::v, false, EventFlag::command)) << "there is nothing to release";
+}
+
+TEST_F(KeyEventsTest, ModifiersStillHeldAreReleasedFirst)
+{
+    user.focus(window);
+    user.press(KEY_RIGHTSHIFT);
+    user.press(KEY_LEFTALT);
+    user.tap(KEY_CAPSLOCK);
+    user.takeKeys();
+    // Caps Lock (2) is no held modifier and stays.
+    EXPECT_EQ(paste(), "-62/11 -64/10 +37/2 +55/6 -55/6 -37/6");
+}
+
+TEST_F(KeyEventsTest, ModifiersHeldOnAKeyboardDoNotReachThePaste)
+{
+    user.focus(window);
+    user.pressOnKeyboard(KEY_LEFTSHIFT);
+    ASSERT_EQ(keyEvents.modifierFlags(), EventFlag::shift);
+    user.takeKeys();
+    EXPECT_THAT(paste(), testing::HasSubstr("+55/4"));
+    user.releaseOnKeyboard(KEY_LEFTSHIFT);
+    EXPECT_EQ(keyEvents.modifierFlags(), 0U);
+}
+
+TEST_F(KeyEventsTest, OtherKeysArePostedWithTheirModifiers)
+{
+    user.focus(window);
+    const auto all = EventFlag::shift | EventFlag::control | EventFlag::option | EventFlag::command;
+    EXPECT_TRUE(keyEvents.post(0, true, all | EventFlag::capsLock));
+    EXPECT_EQ(takeKeys(), "+37/0 +64/4 +50/12 +133/13 +38/77");
+    EXPECT_TRUE(keyEvents.post(0, false, 0));
+    EXPECT_EQ(takeKeys(), "-38/77 -133/77 -50/13 -64/12 -37/4");
+    EXPECT_FALSE(keyEvents.post(KeyCode::fn, true, 0));
+}
+
+TEST_F(KeyEventsTest, HeldModifiersAreToldAndLocksAreNot)
+{
+    const struct {
+        int key;
+        uint32_t flag;
+    } cases[] = {{KEY_RIGHTSHIFT, EventFlag::shift},
+                 {KEY_LEFTCTRL, EventFlag::control},
+                 {KEY_LEFTALT, EventFlag::option},
+                 {KEY_RIGHTALT, EventFlag::option}, // Alt Gr
+                 {KEY_RIGHTMETA, EventFlag::command}};
+    setLayout(u"de"_s);
+    user.tap(KEY_CAPSLOCK);
+    user.tap(KEY_NUMLOCK);
+    for (const auto &[key, flag] : cases) {
+        user.press(key);
+        EXPECT_EQ(keyEvents.modifierFlags(), flag) << key;
+        user.release(key);
+        EXPECT_EQ(keyEvents.modifierFlags(), 0U) << key;
+    }
+}
+
+} // namespace

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "X11Fixture.h"
+#include "platform/KeyCodes.h"
+#include "platform/x11/X11KeyMonitors.h"
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+
+namespace {
+
+class KeyMonitorsTest : public X11Fixture {
+protected:
+    /// Events as text: "flags 61 80040", "key 0 40000 a".
+    KeyMonitors::Handler logTo(std::vector<std::string> &events)
+    {
+        return [&events](const KeyEvent &event) {
+            const bool modifier = event.type == KeyEvent::Type::FlagsChanged;
+            auto text =
+                (modifier ? u"flags %1 %2"_s : u"key %1 %2 "_s).arg(event.keyCode).arg(event.modifierFlags, 0, 16);
+            events.push_back((text + event.charactersIgnoringModifiers.value_or(QString())).toStdString());
+        };
+    }
+
+    std::vector<std::string> takeLog()
+    {
+        settle();
+        return std::exchange(log, {});
+    }
+
+    bool focused = false;
+    X11KeyMonitors monitors{*connection, *keymap, [this] { return focused; }};
+    std::vector<std::string> log;
+};
+
+TEST_F(KeyMonitorsTest, ModifiersAreToldApartByTheirKeys)
+{
+    const struct {
+        int key;
+        const char *press;
+        const char *release;
+    } cases[] = {
+        {KEY_LEFTCTRL, "flags 59 40001", "flags 59 0"},     {KEY_RIGHTCTRL, "flags 62 42000", "flags 62 0"},
+        {KEY_LEFTSHIFT, "flags 56 20002", "flags 56 0"},    {KEY_RIGHTSHIFT, "flags 60 20004", "flags 60 0"},
+        {KEY_LEFTALT, "flags 58 80020", "flags 58 0"},      {KEY_RIGHTALT, "flags 61 80040", "flags 61 0"},
+        {KEY_LEFTMETA, "flags 55 100008", "flags 55 0"},    {KEY_RIGHTMETA, "flags 54 100010", "flags 54 0"},
+        {KEY_CAPSLOCK, "flags 57 10000", "flags 57 10000"}, {KEY_CAPSLOCK, "flags 57 10000", "flags 57 0"},
+    };
+    const auto monitor = monitors.addGlobal(logTo(log));
+    for (const auto &[key, press, release] : cases) {
+        user.press(key);
+        EXPECT_THAT(takeLog(), ElementsAre(press));
+        user.release(key);
+        EXPECT_THAT(takeLog(), ElementsAre(release));
+    }
+}
+
+TEST_F(KeyMonitorsTest, KeysAreReportedOnceWithTheModifiersHeld)
+{
+    user.press(KEY_LEFTSHIFT); // before anybody listens
+    const auto monitor = monitors.addGlobal(logTo(log));
+    user.press(KEY_RIGHTALT);
+    user.press(KEY_A);
+    user.press(KEY_A); // auto-repeat
+    user.release(KEY_A);
+    user.release(KEY_LEFTSHIFT);
+    user.release(KEY_RIGHTALT);
+    EXPECT_THAT(takeLog(), ElementsAre("flags 61 a0042", "key 0 a0042 a", "flags 56 80040", "flags 61 0"));
+}
+
+TEST_F(KeyMonitorsTest, EachEventGoesToTheMonitorsOfOneSide)
+{
+    std::vector<std::string> local;
+    const auto globalMonitor = monitors.addGlobal(logTo(log));
+    const auto localMonitor = monitors.addLocal(logTo(local));
+    user.tap(KEY_A);
+    EXPECT_EQ(takeLog().size(), 1U);
+    EXPECT_EQ(local.size(), 0U);
+    focused = true;
+    user.tap(KEY_A);
+    EXPECT_EQ(takeLog().size(), 0U);
+    EXPECT_EQ(local.size(), 1U);
+}
+
+TEST_F(KeyMonitorsTest, KeysAreSeenWhileAnotherClientGrabsTheKeyboard)
+{
+    const auto monitor = monitors.addGlobal(logTo(log));
+    const auto window = user.addWindow();
+    const XcbPtr<xcb_grab_keyboard_reply_t> grab(xcb_grab_keyboard_reply(
+        user.xcb(),
+        xcb_grab_keyboard(user.xcb(), 0, window, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC), nullptr));
+    ASSERT_EQ(grab->status, XCB_GRAB_STATUS_SUCCESS);
+    user.tap(KEY_RIGHTCTRL);
+    EXPECT_THAT(takeLog(), ElementsAre("flags 62 42000", "flags 62 0"));
+}
+
+TEST_F(KeyMonitorsTest, CharactersAreThoseOfTheLayoutWithoutModifiers)
+{
+    const struct {
+        QString layouts;
+        QString variants;
+        uint8_t group;
+        int key;
+        std::string event;
+    } cases[] = {
+        {u"us"_s, u"dvorak"_s, 0, KEY_V, "key 9 20002 k"}, {u"fr"_s, {}, 0, KEY_A, "key 0 20002 q"},
+        {u"us,ru"_s, {}, 1, KEY_A, "key 0 20002 ф"},       {u"us,ru"_s, {}, 0, KEY_A, "key 0 20002 a"},
+        {u"us"_s, {}, 0, KEY_F5, "key 96 20002 "},
+    };
+    for (const auto &testCase : cases) {
+        setLayout(testCase.layouts, testCase.variants);
+        user.lockGroup(testCase.group);
+        settle();
+        user.press(KEY_LEFTSHIFT);
+        const auto monitor = monitors.addGlobal(logTo(log));
+        user.tap(testCase.key);
+        EXPECT_THAT(takeLog(), ElementsAre(testCase.event));
+        user.release(KEY_LEFTSHIFT);
+    }
+}
+
+TEST_F(KeyMonitorsTest, HandlerMayEndMonitors)
+{
+    std::unique_ptr<KeyMonitor> other;
+    std::unique_ptr<KeyMonitor> own = monitors.addGlobal([&](const KeyEvent &) {
+        own.reset();
+        other.reset();
+        log.emplace_back("ended");
+    });
+    other = monitors.addGlobal(logTo(log));
+    user.tap(KEY_A);
+    user.tap(KEY_B);
+    EXPECT_THAT(takeLog(), ElementsAre("ended"));
+}
+
+TEST_F(KeyMonitorsTest, RawEventsAreAskedForOnlyWhileAMonitorExists)
+{
+    int events = 0;
+    struct Counter : X11Listener {
+        Counter(X11Connection &connection, int &seen) : X11Listener(connection), count(seen) {}
+        void handle(const xcb_generic_event_t &event) override { count += eventType(event) == XCB_GE_GENERIC ? 1 : 0; }
+        int &count;
+    } counter(*connection, events);
+    user.tap(KEY_A);
+    settle();
+    EXPECT_EQ(events, 0);
+    monitors.addGlobal(logTo(log)).reset();
+    user.tap(KEY_A);
+    settle();
+    EXPECT_EQ(events, 0);
+    const auto monitor = monitors.addLocal(logTo(log));
+    user.tap(KEY_A);
+    settle();
+    EXPECT_EQ(events, 2);
+}
+
+} // namespace

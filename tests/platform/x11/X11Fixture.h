@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "TestClient.h"
+#include "platform/x11/X11Connection.h"
+#include "platform/x11/X11Keymap.h"
+#include "support/VirtualDisplay.h"
+
+#include <QCoreApplication>
+
+#include <gmock/gmock.h>
+#include <linux/input-event-codes.h>
+
+/// A display with the program's connection and another client that stands for the user.
+class X11Fixture : public testing::Test {
+protected:
+    /// Everything that happened on the display until now has reached the listeners.
+    void settle()
+    {
+        user.sync();
+        connection->takeArrived([](const auto &) { return false; });
+        QCoreApplication::processEvents();
+    }
+
+    void setLayout(const QString &layouts, const QString &variants = {})
+    {
+        run(QStringLiteral("setxkbmap"), {QStringLiteral("-layout"), layouts, QStringLiteral("-variant"), variants},
+            display.environment());
+    }
+
+    VirtualDisplay display;
+    TestClient user{display};
+    std::unique_ptr<X11Connection> connection = X11Connection::create(display.name());
+    std::unique_ptr<X11Keymap> keymap = X11Keymap::create(*connection);
+};
