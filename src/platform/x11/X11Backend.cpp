@@ -61,6 +61,14 @@ std::unique_ptr<X11Backend> X11Backend::create(Clock &clock, const QStringList &
 
 X11Backend::X11Backend(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) {}
 
+bool X11Backend::canConnect()
+{
+    xcb_connection_t *xcb = xcb_connect(nullptr, nullptr);
+    const bool answers = xcb_connection_has_error(xcb) == 0;
+    xcb_disconnect(xcb);
+    return answers;
+}
+
 X11Backend::~X11Backend() = default;
 
 HotKeys &X11Backend::hotKeys()

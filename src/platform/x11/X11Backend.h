@@ -23,6 +23,9 @@ public:
     /// Ctrl+Shift+V pastes, by default TerminalClasses::defaults(). Needs a QGuiApplication.
     static std::unique_ptr<X11Backend> create(Clock &clock, const QStringList &terminalClasses, QString *whyNot);
 
+    /// Whether the display of $DISPLAY answers. May be called before there is a QGuiApplication.
+    static bool canConnect();
+
     X11Backend(const X11Backend &) = delete;
     X11Backend &operator=(const X11Backend &) = delete;
     ~X11Backend();

@@ -33,7 +33,8 @@ protected:
 TEST_F(HotKeysTest, PressAndReleaseAreReportedWhateverTheLockKeysSay)
 {
     const auto plain = hotKeys.add(f5, 0, logAs("F5"));
-    const auto chord = hotKeys.add(KeyCode::space, HotKeyModifier::control | HotKeyModifier::option, logAs("Ctrl+Alt+Space"));
+    const auto chord =
+        hotKeys.add(KeyCode::space, HotKeyModifier::control | HotKeyModifier::option, logAs("Ctrl+Alt+Space"));
     ASSERT_TRUE(plain && chord);
     for (const auto &locks : std::vector<std::vector<int>>{
              {}, {KEY_CAPSLOCK}, {KEY_NUMLOCK}, {KEY_SCROLLLOCK}, {KEY_CAPSLOCK, KEY_NUMLOCK}}) {

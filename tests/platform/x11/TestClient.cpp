@@ -197,3 +197,13 @@ std::string TestClient::takeKeys()
     }
     return keys.join(QChar(u' ')).toStdString();
 }
+
+int TestClient::takeClicks()
+{
+    sync();
+    int clicks = 0;
+    while (const XcbPtr<xcb_generic_event_t> event{xcb_poll_for_event(m_xcb)}) {
+        clicks += eventType(*event) == XCB_BUTTON_PRESS ? 1 : 0;
+    }
+    return clicks;
+}
