@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "platform/audio/DefaultSource.h"
+
+#include "platform/audio/PulseHandles.h"
+
+#include <utility>
+
+DefaultSource::DefaultSource(std::function<void()> changed) : m_changed(std::move(changed)) {}
+
+void DefaultSource::track(pa_context *context)
+{
+    constexpr auto events = pa_subscription_mask_t(PA_SUBSCRIPTION_MASK_SERVER | PA_SUBSCRIPTION_MASK_SOURCE);
+    pa_context_set_subscribe_callback(context, onEvent, this);
+    release(pa_context_subscribe(context, events, nullptr, nullptr));
+    ask(context);
+}
+
+void DefaultSource::forget()
+{
+    m_known = false;
+    m_name.clear();
+}
+
+void DefaultSource::onEvent(pa_context *context, pa_subscription_event_type_t event, uint32_t /*index*/, void *self)
+{
+    // Sources change all the time (volume, running or suspended) and stay what they are.
+    const auto facility = event & PA_SUBSCRIPTION_EVENT_FACILITY_MASK;
+    const auto type = event & PA_SUBSCRIPTION_EVENT_TYPE_MASK;
+    if (facility != PA_SUBSCRIPTION_EVENT_SOURCE || type != PA_SUBSCRIPTION_EVENT_CHANGE) {
+        static_cast<DefaultSource *>(self)->ask(context);
+    }
+}
+
+void DefaultSource::ask(pa_context *context)
+{
+    release(pa_context_get_server_info(context, onServer, this));
+}
+
+void DefaultSource::onServer(pa_context *context, const pa_server_info *server, void *self)
+{
+    if (server == nullptr || server->default_source_name == nullptr || *server->default_source_name == '\0') {
+        static_cast<DefaultSource *>(self)->set({});
+        return;
+    }
+    release(pa_context_get_source_info_by_name(context, server->default_source_name, onSource, self));
+}
+
+void DefaultSource::onSource(pa_context * /*context*/, const pa_source_info *source, int end, void *self)
+{
+    if (source != nullptr) {
+        const bool monitor = source->monitor_of_sink != PA_INVALID_INDEX;
+        static_cast<DefaultSource *>(self)->set(monitor ? QByteArray() : QByteArray(source->name));
+    } else if (end < 0) { // no such source
+        static_cast<DefaultSource *>(self)->set({});
+    }
+}
+
+void DefaultSource::set(const QByteArray &name)
+{
+    if (!m_known || m_name != name) {
+        m_known = true;
+        m_name = name;
+        m_changed();
+    }
+}
