@@ -16,7 +16,7 @@ class SelectionOwner final : public QObject, private X11Listener {
 
 public:
     /// 256 KiB: far below what a server with big requests takes at once, and few turns for a large picture.
-    static constexpr qsizetype maximumPart = 256 * 1024;
+    static constexpr qsizetype maximumPart = 0x40000;
 
     /// A reader in parts that takes none for `patience` is given up.
     explicit SelectionOwner(X11Connection &connection, std::chrono::milliseconds patience = std::chrono::seconds(10));

@@ -7,7 +7,6 @@
 #include <xcb/xtest.h>
 
 #include <algorithm>
-#include <ranges>
 
 namespace {
 
@@ -91,9 +90,8 @@ bool X11KeyEvents::release(uint16_t keyCode)
     if (!pressed) {
         return false;
     }
-    for (const auto key : std::views::reverse(pressed.mapped())) {
-        fake(XCB_KEY_RELEASE, key);
-    }
+    const auto &chord = pressed.mapped();
+    std::for_each(chord.rbegin(), chord.rend(), [this](uint8_t key) { fake(XCB_KEY_RELEASE, key); });
     return true;
 }
 

@@ -7,9 +7,16 @@
 #include <memory>
 
 // The header of the keyboard extension names a structure member with a C++ keyword.
+#ifdef __clang__
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wkeyword-macro"
+#endif
 #define explicit explicitMember
 #include <xcb/xkb.h>
 #undef explicit
+#ifdef __clang__
+#pragma clang diagnostic pop
+#endif
 
 struct XcbFree {
     void operator()(void *memory) const { std::free(memory); }

@@ -50,8 +50,8 @@ TEST_F(KeyEventsTest, PasteGoesThroughTheKeyThatTypesV)
     for (const auto &[layouts, variants, group, key] : cases) {
         setLayout(layouts, variants);
         user.lockGroup(group);
-        const auto v = std::to_string(key + 8);
-        EXPECT_EQ(paste(), "+37/0 +" + v + "/4 -" + v + "/4 -37/4") << qPrintable(layouts + variants);
+        const auto expected = u"+37/0 +%1/4 -%1/4 -37/4"_s.arg(key + 8).toStdString();
+        EXPECT_EQ(paste(), expected) << qPrintable(layouts + variants);
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "FakeClock.h"
 #include "TestClient.h"
+#include "platform/x11/SelectionOwner.h"
 #include "platform/x11/SelectionReader.h"
 #include "platform/x11/X11Pasteboard.h"
 #include "support/Await.h"
@@ -113,8 +114,9 @@ TEST_F(PasteboardTest, WhatWasReadIsWrittenBackByteForByte)
 {
     const PasteboardItem content{
         {u"UTF8_STRING"_s, {"a\0b\n", u"UTF8_STRING"_s}},
-        {u"image/png"_s, {noise(3'000'000), u"image/png"_s}},                          // beyond one property
-        {u"application/x-exact"_s, {noise(2 * 256 * 1024), u"application/x-other"_s}}, // ends with a full part
+        {u"image/png"_s, {noise(3'000'000), u"image/png"_s}}, // beyond one property
+        {u"application/x-exact"_s,
+         {noise(2 * SelectionOwner::maximumPart), u"application/x-other"_s}}, // ends with a full part
         {u"_ODD_ATOMS"_s, {noise(12), u"ATOM"_s, 32}},
         {u"_ODD_SHORTS"_s, {noise(700'002), u"INTEGER"_s, 16}},
         {u"x-special/empty"_s, {{}, u"STRING"_s}},

@@ -5,6 +5,7 @@
 #include "platform/x11/X11Backend.h"
 #include "support/Await.h"
 
+#include <QClipboard>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -127,6 +128,12 @@ TEST_F(StatusPanelTest, ScreensAndPointerAreTheDisplays)
 TEST_F(StatusPanelTest, ServerWithItsExtensionsIsTrusted)
 {
     EXPECT_TRUE(backend->accessibility().isTrusted());
+}
+
+TEST_F(StatusPanelTest, OwnWindowsCanPasteWhatThisProgramWrote)
+{
+    backend->pasteboard().setString(QStringLiteral("dictated"));
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("dictated")); // waits without an event loop
 }
 
 TEST(X11BackendTest, SaysWhyItIsNotUsable)
