@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+#include "e2e/Desktop.h"
+
+#include "support/Await.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QUrl>
+
+#include <xcb/damage.h>
+#include <xcb/xinput.h>
+
+#include <linux/input-event-codes.h>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QByteArray uploadRequest = "POST /v1/transcribe";
+
+/// Wider than a text cursor, which blinks by itself.
+constexpr int narrowestText = 8;
+
+void require(bool condition, const char *what)
+{
+    if (!condition) {
+        throw std::runtime_error(what);
+    }
+}
+
+/// A time of the X server, which counts milliseconds of the monotonic clock in 32 bits. It is when the server saw the
+/// event, not when it reached us.
+Desktop::Instant instant(xcb_timestamp_t serverTime)
+{
+    const auto now = std::chrono::steady_clock::now();
+    const auto nowInMilliseconds =
+        uint32_t(std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count());
+    return now - std::chrono::milliseconds(int32_t(nowInMilliseconds - serverTime));
+}
+
+template <typename Event>
+const Event &as(const xcb_generic_event_t &event)
+{
+    return reinterpret_cast<const Event &>(event);
+}
+
+} // namespace
+
+Speech Speech::goForward()
+{
+    return {u"/usr/share/pocketsphinx/test/data/goforward.raw"_s, 16000};
+}
+
+Desktop::Desktop()
+    : m_backend(QStringLiteral(QUILLO_BACKEND_PROGRAM),
+                {u"--port"_s, u"0"_s, u"--database"_s, m_session.path(u"backend.db"_s)}, m_session.environment())
+    , m_tap(listeningPort(m_backend))
+{
+    writePreferences();
+    startEditor();
+    startQuillo();
+}
+
+quint16 Desktop::listeningPort(ChildProcess &backend)
+{
+    const QString line = backend.readLine();
+    return quint16(QUrl(line.section(u' ', -1)).port());
+}
+
+void Desktop::writePreferences() const
+{
+    QDir().mkpath(m_session.configFolder() + u"/Quillo"_s);
+    QFile file(m_session.configFolder() + u"/Quillo/Quillo.conf"_s);
+    require(file.open(QIODevice::WriteOnly), "the preferences can't be written");
+    file.write("[General]\napiURL=" + m_tap.url().toUtf8()
+               + "\naiConsent=\"@ByteArray({\\\"version\\\":1,\\\"grantedAt\\\":790000000})\"\n");
+}
+
+QProcessEnvironment Desktop::environment() const
+{
+    QProcessEnvironment environment = m_session.environment(m_display.environment());
+    environment.insert(u"PULSE_SERVER"_s, m_sound.address());
+    environment.insert(u"NO_AT_BRIDGE"_s, u"1"_s); // the editor needs no accessibility bus
+    environment.remove(u"QT_QPA_PLATFORM"_s);
+    return environment;
+}
+
+void Desktop::startEditor()
+{
+    const QString path = m_session.path(u"note.txt"_s);
+    QFile file(path);
+    require(file.open(QIODevice::WriteOnly), "the editor's file can't be made");
+    file.close();
+    m_editor = std::make_unique<ChildProcess>(u"mousepad"_s, QStringList{u"--disable-server"_s, path}, environment());
+    const QByteArray found = run(u"xdotool"_s,
+                                 {u"search"_s, u"--sync"_s, u"--onlyvisible"_s, u"--class"_s, u"mousepad"_s,
+                                  u"windowactivate"_s, u"--sync"_s, u"getactivewindow"_s},
+                                 environment());
+    m_editorWindow = found.trimmed().split('\n').last().toUInt();
+    require(m_editorWindow != 0, "the editor has no window");
+
+    // From here on its drawing and every key are reported on the user's connection.
+    auto *const xcb = m_user.xcb();
+    const XcbPtr<xcb_damage_query_version_reply_t> damage(
+        xcb_damage_query_version_reply(xcb, xcb_damage_query_version(xcb, 1, 1), nullptr));
+    const XcbPtr<xcb_input_xi_query_version_reply_t> input(
+        xcb_input_xi_query_version_reply(xcb, xcb_input_xi_query_version(xcb, 2, 2), nullptr));
+    require(damage && input, "the X server lacks DAMAGE or XInput 2");
+    xcb_damage_create(xcb, xcb_generate_id(xcb), m_editorWindow, XCB_DAMAGE_REPORT_LEVEL_RAW_RECTANGLES);
+    const struct {
+        xcb_input_event_mask_t head{XCB_INPUT_DEVICE_ALL_MASTER, 1};
+        uint32_t mask = XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS;
+    } rawKeys;
+    xcb_input_xi_select_events(xcb, m_user.root(), 1, &rawKeys.head);
+    m_user.sync();
+}
+
+void Desktop::startQuillo()
+{
+    m_quillo = std::make_unique<ChildProcess>(QStringLiteral(QUILLO_PROGRAM), QStringList{}, environment());
+    // The first balance is asked for once the shortcuts are armed.
+    require(await([this] { return m_tap.count("GET /v1/balance") > 0; }), "quillo did not ask for the balance");
+}
+
+Desktop::Dictation Desktop::dictate(const Speech &speech, const std::function<void()> &whileListening,
+                                    const std::function<void()> &whileTranscribing)
+{
+    const int uploads = m_tap.count(uploadRequest);
+    for (const int key : {KEY_LEFTCTRL, KEY_LEFTALT, KEY_SPACE}) {
+        m_user.press(key);
+    }
+    const auto playing = m_sound.play(speech.rawFile, speech.rate);
+    if (whileListening) {
+        whileListening();
+    }
+    playing->wait();
+
+    Dictation dictation;
+    dictation.released = std::chrono::steady_clock::now();
+    for (const int key : {KEY_SPACE, KEY_LEFTALT, KEY_LEFTCTRL}) {
+        m_user.release(key);
+    }
+    if (whileTranscribing) {
+        require(await([&] { return m_tap.count(uploadRequest) > uploads; }), "nothing was uploaded");
+        whileTranscribing();
+    }
+    dictation.keystroke = awaitRawKey(KEY_V);
+    dictation.onScreen = awaitEditorDrawing();
+    dictation.upload = m_tap.last(uploadRequest).value_or(WireTap::Exchange{});
+    const QByteArray body = dictation.upload.reply.sliced(dictation.upload.reply.indexOf("\r\n\r\n") + 4);
+    dictation.text = QJsonDocument::fromJson(body).object().value(u"text"_s).toString();
+    return dictation;
+}
+
+Desktop::Instant Desktop::awaitRawKey(int evdevCode)
+{
+    const auto event = m_user.next([&](const xcb_generic_event_t &candidate) {
+        const auto &key = as<xcb_input_raw_key_press_event_t>(candidate);
+        return (candidate.response_type & 0x7f) == XCB_GE_GENERIC && key.event_type == XCB_INPUT_RAW_KEY_PRESS
+            && key.detail == uint32_t(evdevCode) + 8;
+    });
+    require(event != nullptr, "the paste keystroke did not come");
+    return instant(as<xcb_input_raw_key_press_event_t>(*event).time);
+}
+
+Desktop::Instant Desktop::awaitEditorDrawing()
+{
+    const int drawn = xcb_get_extension_data(m_user.xcb(), &xcb_damage_id)->first_event + XCB_DAMAGE_NOTIFY;
+    const auto event = m_user.next([&](const xcb_generic_event_t &candidate) {
+        return (candidate.response_type & 0x7f) == drawn
+            && as<xcb_damage_notify_event_t>(candidate).area.width >= narrowestText;
+    });
+    require(event != nullptr, "the editor drew nothing");
+    return instant(as<xcb_damage_notify_event_t>(*event).timestamp);
+}
+
+QString Desktop::editorText()
+{
+    const QString path = m_session.path(u"note.txt"_s);
+    const QDateTime before = QFileInfo(path).lastModified();
+    m_user.press(KEY_LEFTCTRL);
+    m_user.tap(KEY_S);
+    m_user.release(KEY_LEFTCTRL);
+    require(await([&] { return QFileInfo(path).lastModified() > before && QFileInfo(path).size() > 0; }),
+            "the editor did not save");
+    QFile file(path);
+    require(file.open(QIODevice::ReadOnly), "the editor's file can't be read");
+    return QString::fromUtf8(file.readAll());
+}
+
+void Desktop::setClipboard(const QByteArray &text)
+{
+    run(u"xclip"_s, {u"-selection"_s, u"clipboard"_s, u"-in"_s}, environment(), text);
+}
+
+QByteArray Desktop::clipboard() const
+{
+    return run(u"xclip"_s, {u"-selection"_s, u"clipboard"_s, u"-out"_s, u"-target"_s, u"UTF8_STRING"_s}, environment());
+}
+
+bool Desktop::awaitClipboard(const QByteArray &text) const
+{
+    return await([&] { return clipboard() == text; }, std::chrono::seconds(2));
+}
+
+void Desktop::screenshot(const QString &path) const
+{
+    run(u"import"_s, {u"-window"_s, u"root"_s, path}, environment());
+}

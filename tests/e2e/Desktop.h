@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/x11/TestClient.h"
+#include "support/ChildProcess.h"
+#include "support/Session.h"
+#include "support/SoundServer.h"
+#include "support/VirtualDisplay.h"
+#include "support/WireTap.h"
+
+#include <QString>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+/// A spoken recording that comes with the operating system.
+struct Speech {
+    QString rawFile;
+    /// Samples per second; mono, signed 16 bits.
+    int rate;
+
+    /// "go forward ten meters"
+    static Speech goForward();
+};
+
+/// A whole desktop for one run: session, screen, virtual microphone, keyring, the server, the program with consent
+/// given, and a text editor in front. Everything is its own and ends with it; what fails throws std::runtime_error.
+class Desktop {
+public:
+    using Instant = std::chrono::steady_clock::time_point;
+
+    /// What happened in one dictation, as seen from outside.
+    struct Dictation {
+        Instant released;
+        /// The upload on the wire.
+        WireTap::Exchange upload;
+        /// When the paste keystroke was posted, and when the editor next drew text.
+        Instant keystroke;
+        Instant onScreen;
+        /// What the server answered.
+        QString text;
+    };
+
+    /// The program has its shortcuts armed and the editor has the focus when the constructor returns.
+    Desktop();
+
+    /// Holds the dictation shortcut while the recording is played and lets go. The two functions run while the program
+    /// listens and while it transcribes; what they take is not part of any figure but their own.
+    Dictation dictate(const Speech &speech, const std::function<void()> &whileListening = {},
+                      const std::function<void()> &whileTranscribing = {});
+
+    /// What stands in the editor: saves it there and reads the file.
+    QString editorText();
+
+    void setClipboard(const QByteArray &text);
+    QByteArray clipboard() const;
+    /// Waits until the clipboard holds the text; false when it does not within two seconds.
+    bool awaitClipboard(const QByteArray &text) const;
+
+    void screenshot(const QString &path) const;
+
+    QProcessEnvironment environment() const;
+    const Session &session() const { return m_session; }
+    const WireTap &tap() const { return m_tap; }
+    TestClient &user() { return m_user; }
+    ChildProcess &quillo() { return *m_quillo; }
+
+private:
+    static quint16 listeningPort(ChildProcess &backend);
+    void writePreferences() const;
+    void startQuillo();
+    void startEditor();
+    Instant awaitRawKey(int evdevCode);
+    Instant awaitEditorDrawing();
+
+    Session m_session;
+    VirtualDisplay m_display{VirtualDisplay::WindowManager::Openbox};
+    SoundServer m_sound;
+    TestClient m_user{m_display};
+    ChildProcess m_backend;
+    WireTap m_tap;
+    std::unique_ptr<ChildProcess> m_editor;
+    std::unique_ptr<ChildProcess> m_quillo;
+    xcb_window_t m_editorWindow = 0;
+};
