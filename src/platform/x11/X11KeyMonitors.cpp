@@ -84,7 +84,9 @@ std::unique_ptr<KeyMonitor> X11KeyMonitors::add(bool local, Handler handler)
     if (m_monitors.empty()) {
         m_held = X11Keys::heldKeys(m_connection.xcb());
         m_capsLocked = isCapsLocked();
-        select(XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE);
+        if (!select(XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE)) {
+            return nullptr;
+        }
     }
     m_monitors.emplace(++m_lastId, Entry{local, std::move(handler)});
     return std::make_unique<Monitor>(*this, m_lastId);
@@ -98,14 +100,17 @@ void X11KeyMonitors::remove(Id id)
     }
 }
 
-void X11KeyMonitors::select(uint32_t events)
+/// In force when it returns.
+bool X11KeyMonitors::select(uint32_t events)
 {
     struct {
         xcb_input_event_mask_t head;
         uint32_t mask;
     } const selection{{XCB_INPUT_DEVICE_ALL_MASTER, 1}, events};
-    xcb_input_xi_select_events(m_connection.xcb(), m_connection.root(), 1, &selection.head);
-    m_connection.flush();
+    auto *const c = m_connection.xcb();
+    const XcbPtr<xcb_generic_error_t> error(
+        xcb_request_check(c, xcb_input_xi_select_events_checked(c, m_connection.root(), 1, &selection.head)));
+    return !error && xcb_connection_has_error(c) == 0;
 }
 
 void X11KeyMonitors::handle(const xcb_generic_event_t &event)

@@ -30,7 +30,7 @@ private:
 
     std::unique_ptr<KeyMonitor> add(bool local, Handler handler);
     void remove(Id id);
-    void select(uint32_t events);
+    bool select(uint32_t events);
 
     void handle(const xcb_generic_event_t &event) override;
     void change(uint8_t code, bool down);

@@ -88,6 +88,7 @@ TEST_F(HotKeysTest, CombinationOfAnotherClientIsRefusedAndLeftAlone)
 {
     ASSERT_TRUE(user.grabsKey(KEY_F5, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_LOCK)); // one of several is enough
     EXPECT_FALSE(hotKeys.add(f5, HotKeyModifier::control, logAs("")));
+    settle();
     EXPECT_TRUE(user.grabsKey(KEY_F5, XCB_MOD_MASK_CONTROL));
     EXPECT_TRUE(hotKeys.add(f5, HotKeyModifier::shift, logAs("")));
 }
