@@ -6,10 +6,7 @@ class Composition;
 /// What the program does at the moments of its life.
 class AppDelegate {
 public:
-    explicit AppDelegate(Composition &composition)
-        : m_composition(composition)
-    {
-    }
+    explicit AppDelegate(Composition &composition) : m_composition(composition) {}
 
     /// The event loop is about to run.
     void applicationDidFinishLaunching();

@@ -46,25 +46,25 @@ std::optional<QString> conflict(bool isArmed, const Shortcut &shortcut)
 
 AppModel::AppModel(const Platform &platform, ApiClient &client, AIConsent &consent,
                    RecordingHUD::PanelFactory makePanel)
-    : m_platform(platform)
-    , m_clock(platform.clock)
-    , m_client(client)
-    , m_consent(consent)
-    , m_freeGrantMissed(platform.preferences.boolean(u"freeGrantMissed"_s))
-    , m_isTrusted(platform.accessibility.isTrusted())
-    , m_shortcut(storedShortcut(platform.preferences, shortcutKey,
-                                Shortcut::combo(KeyCode::space, controlOption, u"Space"_s)))
-    , m_triggerMode(storedTriggerMode(platform.preferences))
-    , m_groupShortcut(
-          storedShortcut(platform.preferences, groupShortcutKey, Shortcut::combo(KeyCode::g, controlOption, u"G"_s)))
-    , m_historyShortcut(
-          storedShortcut(platform.preferences, historyShortcutKey, Shortcut::combo(KeyCode::h, controlOption, u"H"_s)))
-    , m_store(platform.files, platform.clock)
-    , m_groups(platform.files, platform.preferences)
-    , m_recorder(platform.microphone, platform.files)
-    , m_inserter(platform.pasteboard, platform.keyEvents, platform.accessibility, platform.clock)
-    , m_hud(platform.clock, platform.screens, std::move(makePanel))
-    , m_monitor(platform.hotKeys, platform.keyMonitors, [this](ShortcutEvent event) { handle(event); })
+    : m_platform(platform),
+      m_clock(platform.clock),
+      m_client(client),
+      m_consent(consent),
+      m_freeGrantMissed(platform.preferences.boolean(u"freeGrantMissed"_s)),
+      m_isTrusted(platform.accessibility.isTrusted()),
+      m_shortcut(storedShortcut(platform.preferences, shortcutKey,
+                                Shortcut::combo(KeyCode::space, controlOption, u"Space"_s))),
+      m_triggerMode(storedTriggerMode(platform.preferences)),
+      m_groupShortcut(
+          storedShortcut(platform.preferences, groupShortcutKey, Shortcut::combo(KeyCode::g, controlOption, u"G"_s))),
+      m_historyShortcut(
+          storedShortcut(platform.preferences, historyShortcutKey, Shortcut::combo(KeyCode::h, controlOption, u"H"_s))),
+      m_store(platform.files, platform.clock),
+      m_groups(platform.files, platform.preferences),
+      m_recorder(platform.microphone, platform.files),
+      m_inserter(platform.pasteboard, platform.keyEvents, platform.accessibility, platform.clock),
+      m_hud(platform.clock, platform.screens, std::move(makePanel)),
+      m_monitor(platform.hotKeys, platform.keyMonitors, [this](ShortcutEvent event) { handle(event); })
 {
     m_microphone = m_recorder.permission();
 }
@@ -128,9 +128,9 @@ void AppModel::setHistoryShortcut(const Shortcut &shortcut)
 void AppModel::armShortcut()
 {
     const bool isArmed = m_monitor.activate(m_shortcut);
-    m_shortcutError = isArmed
-        ? std::nullopt
-        : std::optional(m_shortcut.label() + u" is already used by another app. Pick a different shortcut."_s);
+    m_shortcutError =
+        isArmed ? std::nullopt
+                : std::optional(m_shortcut.label() + u" is already used by another app. Pick a different shortcut."_s);
     Q_EMIT shortcutErrorsChanged();
 }
 

@@ -41,9 +41,9 @@ QString AppModel::statusText() const
     case State::Case::Idle:
         break;
     }
-    const QString gesture = m_triggerMode == TriggerMode::Hold ? u"Hold "_s
-        : m_triggerMode == TriggerMode::Toggle                 ? u"Tap "_s
-                                                               : u"Hold or tap "_s;
+    const QString gesture = m_triggerMode == TriggerMode::Hold     ? u"Hold "_s
+                            : m_triggerMode == TriggerMode::Toggle ? u"Tap "_s
+                                                                   : u"Hold or tap "_s;
     return gesture + m_shortcut.label() + u" to dictate"_s;
 }
 

@@ -63,8 +63,7 @@ std::unique_ptr<Composition> Composition::create(QString *whyNot)
     return std::unique_ptr<Composition>(new Composition(std::move(parts)));
 }
 
-Composition::Composition(std::unique_ptr<Parts> parts)
-    : m_parts(std::move(parts))
+Composition::Composition(std::unique_ptr<Parts> parts) : m_parts(std::move(parts))
 {
     Parts &p = *m_parts;
     X11Backend &x11 = *p.desktop;
@@ -72,8 +71,7 @@ Composition::Composition(std::unique_ptr<Parts> parts)
                                 x11.keyMonitors(), p.microphone, p.packagedInfo, x11.pasteboard(), p.preferences,
                                 x11.screens(), p.secrets, x11.statusPanels(), p.workspace});
     p.model.emplace(*p.platform, p.client, p.consent, [&p](HUDModel &hud) {
-        return p.preparedPanel ? std::move(p.preparedPanel)
-                               : makeHUDPanel(p.engine, p.platform->statusPanels, hud);
+        return p.preparedPanel ? std::move(p.preparedPanel) : makeHUDPanel(p.engine, p.platform->statusPanels, hud);
     });
 }
 

@@ -24,8 +24,8 @@ void wake(int /*signal*/)
 } // namespace
 
 TerminationSignals::TerminationSignals(std::function<void()> onSignal)
-    : m_descriptor(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
-    , m_notifier(std::make_unique<QSocketNotifier>(m_descriptor, QSocketNotifier::Read))
+    : m_descriptor(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
+      m_notifier(std::make_unique<QSocketNotifier>(m_descriptor, QSocketNotifier::Read))
 {
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(),
                      [this, onSignal = std::move(onSignal)] {

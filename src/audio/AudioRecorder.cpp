@@ -21,11 +21,7 @@ AudioSettings settings()
 
 } // namespace
 
-AudioRecorder::AudioRecorder(Microphone &microphone, const Files &files)
-    : m_microphone(microphone)
-    , m_files(files)
-{
-}
+AudioRecorder::AudioRecorder(Microphone &microphone, const Files &files) : m_microphone(microphone), m_files(files) {}
 
 void AudioRecorder::start(std::function<void()> onEnded)
 {

@@ -30,10 +30,7 @@ PasteboardItem transientItem(const QString &text)
 } // namespace
 
 TextInserter::TextInserter(Pasteboard &pasteboard, KeyEvents &keyEvents, Accessibility &accessibility, Clock &clock)
-    : m_pasteboard(pasteboard)
-    , m_keyEvents(keyEvents)
-    , m_accessibility(accessibility)
-    , m_clock(clock)
+    : m_pasteboard(pasteboard), m_keyEvents(keyEvents), m_accessibility(accessibility), m_clock(clock)
 {
 }
 

@@ -26,11 +26,7 @@ public:
     /// What `sleep` returns: awaiting it suspends the coroutine; destroying the coroutine cancels the sleep.
     class Sleep {
     public:
-        Sleep(Clock &clock, Duration duration)
-            : m_clock(clock)
-            , m_duration(duration)
-        {
-        }
+        Sleep(Clock &clock, Duration duration) : m_clock(clock), m_duration(duration) {}
         bool await_ready() const noexcept { return false; }
         void await_suspend(std::coroutine_handle<> coroutine)
         {

@@ -27,5 +27,5 @@ public:
     /// `keyCode` is a virtual key code (KeyCodes.h), `modifiers` uses the hot-key masks of KeyCodes.h, other bits are
     /// ignored. Returns null when the combination is taken, by this process too, or the key does not exist here.
     [[nodiscard]] virtual std::unique_ptr<HotKeyRegistration> add(uint32_t keyCode, uint32_t modifiers,
-                                                                 Handler handler) = 0;
+                                                                  Handler handler) = 0;
 };

@@ -9,10 +9,7 @@
 /// A failure whose text is made where it happens and shown to the user as it stands.
 class LocalizedError : public std::exception {
 public:
-    explicit LocalizedError(QString description)
-        : m_description(std::move(description))
-    {
-    }
+    explicit LocalizedError(QString description) : m_description(std::move(description)) {}
 
     /// The sentence the user sees. Never holds a credential, a path or a transcript.
     const QString &localizedDescription() const { return m_description; }

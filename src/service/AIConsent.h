@@ -21,11 +21,7 @@ public:
     /// The only version that counts; an agreement to another has to be given anew.
     static constexpr int64_t currentVersion = 1;
 
-    AIConsent(Preferences &preferences, const Clock &clock)
-        : m_preferences(preferences)
-        , m_clock(clock)
-    {
-    }
+    AIConsent(Preferences &preferences, const Clock &clock) : m_preferences(preferences), m_clock(clock) {}
 
     /// Nothing when there is none, or what is stored is no record.
     std::optional<Record> record() const;

@@ -36,8 +36,7 @@ std::optional<QUrl> baseUrl(const Preferences &preferences, const PackagedInfo &
     return url.isValid() && !url.isEmpty() ? std::optional(url) : std::nullopt;
 }
 
-template <typename Record>
-std::optional<Record> decoded(const QByteArray &body)
+template <typename Record> std::optional<Record> decoded(const QByteArray &body)
 {
     const QJsonDocument document = QJsonDocument::fromJson(body);
     return document.isObject() ? Record::decode(document.object()) : std::nullopt;
@@ -53,13 +52,13 @@ ApiError failure(const HttpResponse &response)
 
 } // namespace
 
-ApiClient::ApiClient(Preferences &preferences, const PackagedInfo &info, SecretStore &secrets,
-                     const AIConsent &consent, std::chrono::milliseconds timeout)
-    : m_preferences(preferences)
-    , m_consent(consent)
-    , m_keychain(secrets)
-    , m_transport(timeout)
-    , m_baseUrl(baseUrl(preferences, info))
+ApiClient::ApiClient(Preferences &preferences, const PackagedInfo &info, SecretStore &secrets, const AIConsent &consent,
+                     std::chrono::milliseconds timeout)
+    : m_preferences(preferences),
+      m_consent(consent),
+      m_keychain(secrets),
+      m_transport(timeout),
+      m_baseUrl(baseUrl(preferences, info))
 {
 }
 
@@ -94,8 +93,7 @@ QCoro::Task<QUrl> ApiClient::checkoutLink()
     co_return link.url;
 }
 
-template <typename Record>
-QCoro::Task<Record> ApiClient::send(Call call, bool retried)
+template <typename Record> QCoro::Task<Record> ApiClient::send(Call call, bool retried)
 {
     const HttpResponse response = co_await exchange(call);
     if (response.status >= 200 && response.status <= 299) {

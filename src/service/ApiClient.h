@@ -47,8 +47,7 @@ private:
         bool authenticated = true;
     };
 
-    template <typename Record>
-    QCoro::Task<Record> send(Call call, bool retried = false);
+    template <typename Record> QCoro::Task<Record> send(Call call, bool retried = false);
     QCoro::Task<HttpResponse> exchange(Call call);
     QCoro::Task<QString> deviceCredential();
     QCoro::Task<void> forgetCredential();

@@ -9,9 +9,7 @@
 class ApiError : public LocalizedError {
 public:
     ApiError(QString code, QString message, int status)
-        : LocalizedError(std::move(message))
-        , m_code(std::move(code))
-        , m_status(status)
+        : LocalizedError(std::move(message)), m_code(std::move(code)), m_status(status)
     {
     }
 

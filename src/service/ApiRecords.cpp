@@ -10,8 +10,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// An optional member: absent and null are the same, a value of another type makes the document unreadable.
-template <typename T>
-struct Member {
+template <typename T> struct Member {
     bool readable = true;
     std::optional<T> value = std::nullopt;
 };

@@ -19,8 +19,7 @@ namespace {
 /// an answer; a recording sent twice may be charged twice, and a body that can't be rewound makes it give up instead.
 class OneTimeBody : public QIODevice {
 public:
-    explicit OneTimeBody(QByteArray bytes)
-        : m_bytes(std::move(bytes))
+    explicit OneTimeBody(QByteArray bytes) : m_bytes(std::move(bytes))
     {
         open(QIODevice::ReadOnly | QIODevice::Unbuffered);
     }
@@ -62,15 +61,14 @@ bool isResponse(const QNetworkReply &reply)
         return false;
     default:
         // From here on Qt's codes stand for HTTP statuses; the ones below are failures of the exchange itself.
-        return reply.error() >= QNetworkReply::ContentAccessDenied && reply.error() != QNetworkReply::ProtocolFailure
-            && reply.error() != QNetworkReply::ProtocolUnknownError;
+        return reply.error() >= QNetworkReply::ContentAccessDenied && reply.error() != QNetworkReply::ProtocolFailure &&
+               reply.error() != QNetworkReply::ProtocolUnknownError;
     }
 }
 
 } // namespace
 
-HttpTransport::HttpTransport(std::chrono::milliseconds timeout)
-    : m_timeout(timeout)
+HttpTransport::HttpTransport(std::chrono::milliseconds timeout) : m_timeout(timeout)
 {
     m_manager.setRedirectPolicy(QNetworkRequest::ManualRedirectPolicy);
 }

@@ -11,10 +11,7 @@
 /// The program's own items in the secret store, by account name. Failures are silent. Main thread only.
 class Keychain {
 public:
-    explicit Keychain(SecretStore &store)
-        : m_store(store)
-    {
-    }
+    explicit Keychain(SecretStore &store) : m_store(store) {}
 
     /// Nothing for an absent item, an unreadable store and bytes that are no UTF-8.
     QCoro::Task<std::optional<QString>> read(QString account);

@@ -4,8 +4,7 @@
 #include <utility>
 
 CarbonHotKey::CarbonHotKey(uint32_t id, std::unique_ptr<HotKeyRegistration> registration)
-    : m_id(id)
-    , m_registration(std::move(registration))
+    : m_id(id), m_registration(std::move(registration))
 {
 }
 

@@ -16,8 +16,8 @@ namespace {
 QString specialKeyName(uint32_t keyCode)
 {
     static const std::map<uint32_t, QString> names{
-        {49, u"Space"_s}, {36, u"Return"_s}, {48, u"Tab"_s}, {51, u"Delete"_s},   {117, u"⌦"_s},
-        {123, u"←"_s},    {124, u"→"_s},     {126, u"↑"_s},  {125, u"↓"_s},       {115, u"Home"_s},
+        {49, u"Space"_s}, {36, u"Return"_s},   {48, u"Tab"_s},        {51, u"Delete"_s}, {117, u"⌦"_s},
+        {123, u"←"_s},    {124, u"→"_s},       {126, u"↑"_s},         {125, u"↓"_s},     {115, u"Home"_s},
         {119, u"End"_s},  {116, u"Page Up"_s}, {121, u"Page Down"_s}, {76, u"Enter"_s},
     };
     const auto found = names.find(keyCode);
@@ -27,8 +27,8 @@ QString specialKeyName(uint32_t keyCode)
 QString functionKeyName(uint32_t keyCode)
 {
     // F1 to F20, in order.
-    static constexpr std::array<uint32_t, 20> codes{122, 120, 99,  118, 96,  97,  98,  100, 101, 109,
-                                                    103, 111, 105, 107, 113, 106, 64,  79,  80,  90};
+    static constexpr std::array<uint32_t, 20> codes{122, 120, 99,  118, 96,  97,  98, 100, 101, 109,
+                                                    103, 111, 105, 107, 113, 106, 64, 79,  80,  90};
     const auto *const found = std::ranges::find(codes, keyCode);
     return found == codes.end() ? QString() : u'F' + QString::number(found - codes.begin() + 1);
 }

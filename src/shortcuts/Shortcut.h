@@ -95,10 +95,7 @@ public:
     bool operator==(const Shortcut &) const = default;
 
 private:
-    explicit Shortcut(std::variant<Combo, ModifierKey> value)
-        : m_value(std::move(value))
-    {
-    }
+    explicit Shortcut(std::variant<Combo, ModifierKey> value) : m_value(std::move(value)) {}
 
     std::variant<Combo, ModifierKey> m_value;
 };

@@ -4,9 +4,7 @@
 #include <utility>
 
 ShortcutMonitor::ShortcutMonitor(HotKeys &hotKeys, KeyMonitors &keyMonitors, Callback onEvent)
-    : m_hotKeys(hotKeys)
-    , m_keyMonitors(keyMonitors)
-    , m_onEvent(std::move(onEvent))
+    : m_hotKeys(hotKeys), m_keyMonitors(keyMonitors), m_onEvent(std::move(onEvent))
 {
 }
 

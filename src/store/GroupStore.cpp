@@ -26,8 +26,7 @@ std::optional<DictationGroup> decode(const QJsonValue &value)
 } // namespace
 
 GroupStore::GroupStore(Files &files, Preferences &preferences)
-    : m_preferences(preferences)
-    , m_file(files, u"groups.json"_s)
+    : m_preferences(preferences), m_file(files, u"groups.json"_s)
 {
     load();
     const auto stored = group(m_preferences.string(activeIdKey));

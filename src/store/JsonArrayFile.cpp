@@ -9,8 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-JsonArrayFile::JsonArrayFile(Files &files, const QString &name)
-    : m_files(files)
+JsonArrayFile::JsonArrayFile(Files &files, const QString &name) : m_files(files)
 {
     const QString folder = files.applicationSupportFolder() + u"/Quillo"_s;
     files.createFolder(folder);

@@ -47,8 +47,7 @@ QString timestamp(Clock::Instant now)
 } // namespace
 
 TranscriptionStore::TranscriptionStore(Files &files, const Clock &clock)
-    : m_clock(clock)
-    , m_file(files, u"transcriptions.json"_s)
+    : m_clock(clock), m_file(files, u"transcriptions.json"_s)
 {
     load();
 }

@@ -22,10 +22,7 @@ class OutlineFollower : public QObject {
     Q_OBJECT
 
 public:
-    OutlineFollower(QQuickItem &view, StatusPanel &panel)
-        : QObject(&view)
-        , m_view(view)
-        , m_panel(panel)
+    OutlineFollower(QQuickItem &view, StatusPanel &panel) : QObject(&view), m_view(view), m_panel(panel)
     {
         connect(&view, SIGNAL(outlineChanged()), this, SLOT(follow()));
         follow();

@@ -30,9 +30,7 @@ std::optional<Clock::Duration> autoHide(const RecordingHUD::Phase &phase)
 } // namespace
 
 RecordingHUD::RecordingHUD(Clock &clock, const Screens &screens, PanelFactory makePanel)
-    : m_clock(clock)
-    , m_screens(screens)
-    , m_makePanel(std::move(makePanel))
+    : m_clock(clock), m_screens(screens), m_makePanel(std::move(makePanel))
 {
 }
 
@@ -73,6 +71,5 @@ void RecordingHUD::position()
         std::ranges::find_if(screens, [&](const Screen &screen) { return screen.frame.contains(pointer); });
     const QRectF visible = (holding == screens.end() ? screens.first() : *holding).visibleFrame;
     const QSizeF size = m_panel->size();
-    m_panel->setFrameOrigin(
-        {visible.center().x() - size.width() / 2, visible.bottom() - bottomMargin - size.height()});
+    m_panel->setFrameOrigin({visible.center().x() - size.width() / 2, visible.bottom() - bottomMargin - size.height()});
 }

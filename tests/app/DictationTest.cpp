@@ -23,7 +23,8 @@ TEST_F(DictationTest, ModesDecideWhatReleaseAndPressDo)
           Row{TriggerMode::Both, 5s, Case::Transcribing}, Row{TriggerMode::Hold, 1ms, Case::Transcribing},
           Row{TriggerMode::Hold, 5s, Case::Transcribing}, Row{TriggerMode::Toggle, 1ms, Case::Recording},
           Row{TriggerMode::Toggle, 5s, Case::Recording}}) {
-        SCOPED_TRACE(::testing::Message() << info(row.mode).rawValue.toString().toStdString() << " " << row.held.count());
+        SCOPED_TRACE(::testing::Message()
+                     << info(row.mode).rawValue.toString().toStdString() << " " << row.held.count());
         model->setTriggerMode(row.mode);
         press();
         const auto startedAt = fake.clock.now();
@@ -102,7 +103,8 @@ TEST_F(DictationTest, RepliesThatAreNoTextEndWithTheirNotice)
         {{500, ""}, error(u"Something went wrong. Please try again."_s), 0},
         {{400, R"({"error":"x","message":"Too long."})"}, error(u"Too long."_s), 0},
         {{200, "", HttpServer::Response::Ending::CloseWithoutReply},
-         error(u"Network error. Please check your connection."_s), 0},
+         error(u"Network error. Please check your connection."_s),
+         0},
     };
     for (const Row &row : table) {
         transcript = row.reply;
@@ -197,7 +199,8 @@ TEST_F(DictationTest, TheMeterFollowsTheLevelWhileRecording)
 {
     start();
     press();
-    for (const auto &[power, level] : {std::pair{-60.0F, 0.0F}, {-50.0F, 0.0F}, {-25.0F, 0.5F}, {0.0F, 1.0F}, {3.0F, 1.0F}}) {
+    for (const auto &[power, level] :
+         {std::pair{-60.0F, 0.0F}, {-50.0F, 0.0F}, {-25.0F, 0.5F}, {0.0F, 1.0F}, {3.0F, 1.0F}}) {
         fake.microphone.power = power;
         fake.clock.advance(50ms);
         EXPECT_FLOAT_EQ(model->hud().model().level(), level);

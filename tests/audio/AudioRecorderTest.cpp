@@ -88,9 +88,10 @@ TEST_F(AudioRecorderTest, PermissionFollowsTheAuthorisationStatus)
 {
     using Authorization = Microphone::Authorization;
     using Permission = AudioRecorder::Permission;
-    for (const auto &[status, expected] :
-         {std::pair{Authorization::Authorized, Permission::Granted}, {Authorization::NotDetermined, Permission::Undetermined},
-          {Authorization::Restricted, Permission::Denied}, {Authorization::Denied, Permission::Denied}}) {
+    for (const auto &[status, expected] : {std::pair{Authorization::Authorized, Permission::Granted},
+                                           {Authorization::NotDetermined, Permission::Undetermined},
+                                           {Authorization::Restricted, Permission::Denied},
+                                           {Authorization::Denied, Permission::Denied}}) {
         microphone.authorization = status;
         EXPECT_EQ(recorder.permission(), expected);
     }

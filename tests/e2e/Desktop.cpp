@@ -43,8 +43,7 @@ Desktop::Instant instant(xcb_timestamp_t serverTime)
     return now - std::chrono::milliseconds(int32_t(nowInMilliseconds - serverTime));
 }
 
-template <typename Event>
-const Event &as(const xcb_generic_event_t &event)
+template <typename Event> const Event &as(const xcb_generic_event_t &event)
 {
     return reinterpret_cast<const Event &>(event);
 }
@@ -58,8 +57,8 @@ Speech Speech::goForward()
 
 Desktop::Desktop()
     : m_backend(QStringLiteral(QUILLO_BACKEND_PROGRAM),
-                {u"--port"_s, u"0"_s, u"--database"_s, m_session.path(u"backend.db"_s)}, m_session.environment())
-    , m_tap(listeningPort(m_backend))
+                {u"--port"_s, u"0"_s, u"--database"_s, m_session.path(u"backend.db"_s)}, m_session.environment()),
+      m_tap(listeningPort(m_backend))
 {
     writePreferences();
     startEditor();
@@ -77,8 +76,8 @@ void Desktop::writePreferences() const
     QDir().mkpath(m_session.configFolder() + u"/Quillo"_s);
     QFile file(m_session.configFolder() + u"/Quillo/Quillo.conf"_s);
     require(file.open(QIODevice::WriteOnly), "the preferences can't be written");
-    file.write("[General]\napiURL=" + m_tap.url().toUtf8()
-               + "\naiConsent=\"@ByteArray({\\\"version\\\":1,\\\"grantedAt\\\":790000000})\"\n");
+    file.write("[General]\napiURL=" + m_tap.url().toUtf8() +
+               "\naiConsent=\"@ByteArray({\\\"version\\\":1,\\\"grantedAt\\\":790000000})\"\n");
 }
 
 QProcessEnvironment Desktop::environment() const
@@ -161,8 +160,8 @@ Desktop::Instant Desktop::awaitRawKey(int evdevCode)
 {
     const auto event = m_user.next([&](const xcb_generic_event_t &candidate) {
         const auto &key = as<xcb_input_raw_key_press_event_t>(candidate);
-        return (candidate.response_type & 0x7f) == XCB_GE_GENERIC && key.event_type == XCB_INPUT_RAW_KEY_PRESS
-            && key.detail == uint32_t(evdevCode) + 8;
+        return (candidate.response_type & 0x7f) == XCB_GE_GENERIC && key.event_type == XCB_INPUT_RAW_KEY_PRESS &&
+               key.detail == uint32_t(evdevCode) + 8;
     });
     require(event != nullptr, "the paste keystroke did not come");
     return instant(as<xcb_input_raw_key_press_event_t>(*event).time);
@@ -172,8 +171,8 @@ Desktop::Instant Desktop::awaitEditorDrawing()
 {
     const int drawn = xcb_get_extension_data(m_user.xcb(), &xcb_damage_id)->first_event + XCB_DAMAGE_NOTIFY;
     const auto event = m_user.next([&](const xcb_generic_event_t &candidate) {
-        return (candidate.response_type & 0x7f) == drawn
-            && as<xcb_damage_notify_event_t>(candidate).area.width >= narrowestText;
+        return (candidate.response_type & 0x7f) == drawn &&
+               as<xcb_damage_notify_event_t>(candidate).area.width >= narrowestText;
     });
     require(event != nullptr, "the editor drew nothing");
     return instant(as<xcb_damage_notify_event_t>(*event).timestamp);

@@ -26,10 +26,9 @@ TEST(EndToEndTest, SpokenWordsStandInTheEditorAndTheClipboardIsBack)
     EXPECT_EQ(QJsonDocument::fromJson(history.readAll()).array().first().toObject().value(u"text"_s), dictation.text);
     EXPECT_EQ(history.permissions() & ~(QFile::ReadUser | QFile::WriteUser), QFile::ReadOwner | QFile::WriteOwner);
 
-    const QByteArray secret = run(u"secret-tool"_s,
-                                  {u"lookup"_s, u"service"_s, u"app.quillo.Quillo"_s, u"account"_s,
-                                   u"apiDeviceCredential"_s},
-                                  desktop.environment());
+    const QByteArray secret = run(
+        u"secret-tool"_s, {u"lookup"_s, u"service"_s, u"app.quillo.Quillo"_s, u"account"_s, u"apiDeviceCredential"_s},
+        desktop.environment());
     EXPECT_TRUE(secret.contains('.'));
     EXPECT_TRUE(QDir(desktop.session().runtimeFolder()).entryList({u"*.m4a"_s}).isEmpty());
 

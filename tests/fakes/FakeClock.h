@@ -49,11 +49,7 @@ public:
 
 private:
     struct FakeTimer : Timer {
-        explicit FakeTimer(FakeClock &owner)
-            : clock(owner)
-        {
-            clock.m_timers.push_back(this);
-        }
+        explicit FakeTimer(FakeClock &owner) : clock(owner) { clock.m_timers.push_back(this); }
         FakeTimer(const FakeTimer &) = delete;
         FakeTimer &operator=(const FakeTimer &) = delete;
         ~FakeTimer() override { clock.m_timers.remove(this); }

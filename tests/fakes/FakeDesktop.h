@@ -67,10 +67,7 @@ struct PanelRecord {
 
 class FakeStatusPanel : public StatusPanel {
 public:
-    explicit FakeStatusPanel(PanelRecord &record)
-        : m_record(record)
-    {
-    }
+    explicit FakeStatusPanel(PanelRecord &record) : m_record(record) {}
 
     QSizeF size() const override { return {280, 56}; }
     void setIgnoresMouseEvents(bool ignores) override { m_record.ignoresMouse = ignores; }

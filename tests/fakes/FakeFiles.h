@@ -27,10 +27,7 @@ public:
     }
 
     /// Recordings left in the temporary folder.
-    QStringList recordings() const
-    {
-        return QDir(m_folder.path()).entryList({QStringLiteral("*.m4a")}, QDir::Files);
-    }
+    QStringList recordings() const { return QDir(m_folder.path()).entryList({QStringLiteral("*.m4a")}, QDir::Files); }
 
     bool failsToWrite = false;
     int writes = 0;

@@ -13,7 +13,7 @@ public:
     using Combination = std::pair<uint32_t, uint32_t>;
 
     [[nodiscard]] std::unique_ptr<HotKeyRegistration> add(uint32_t keyCode, uint32_t modifiers,
-                                                         Handler handler) override
+                                                          Handler handler) override
     {
         const Combination combination{keyCode, modifiers};
         if (takenByOthers.contains(combination) || m_handlers.contains(combination)) {
@@ -33,11 +33,7 @@ public:
 
 private:
     struct Registration : HotKeyRegistration {
-        Registration(FakeHotKeys &registry, Combination which)
-            : owner(registry)
-            , combination(which)
-        {
-        }
+        Registration(FakeHotKeys &registry, Combination which) : owner(registry), combination(which) {}
         Registration(const Registration &) = delete;
         Registration &operator=(const Registration &) = delete;
         ~Registration() override { owner.m_handlers.erase(combination); }

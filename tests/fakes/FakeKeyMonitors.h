@@ -31,9 +31,7 @@ public:
 
 private:
     struct Monitor : KeyMonitor {
-        Monitor(std::list<const Handler *> &stream, Handler given)
-            : monitors(stream)
-            , handler(std::move(given))
+        Monitor(std::list<const Handler *> &stream, Handler given) : monitors(stream), handler(std::move(given))
         {
             monitors.push_back(&handler);
         }

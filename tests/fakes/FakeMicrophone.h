@@ -37,9 +37,7 @@ public:
 
 class FakeMicrophone::Recorder : public AudioFileRecorder {
 public:
-    Recorder(FakeMicrophone &microphone, QString path)
-        : m_microphone(microphone)
-        , m_path(std::move(path))
+    Recorder(FakeMicrophone &microphone, QString path) : m_microphone(microphone), m_path(std::move(path))
     {
         QFile file(m_path);
         file.open(QIODevice::WriteOnly);

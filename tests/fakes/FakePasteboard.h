@@ -17,8 +17,7 @@ public:
 
     QString string() const
     {
-        return content.isEmpty() ? QString()
-                                 : QString::fromUtf8(content.first().value(plainString.toString()).bytes);
+        return content.isEmpty() ? QString() : QString::fromUtf8(content.first().value(plainString.toString()).bytes);
     }
 
     QList<PasteboardItem> content;

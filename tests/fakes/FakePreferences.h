@@ -20,8 +20,7 @@ public:
     QMap<QString, QVariant> values;
 
 private:
-    template <typename T>
-    std::optional<T> typed(const QString &key) const
+    template <typename T> std::optional<T> typed(const QString &key) const
     {
         const QVariant value = values.value(key);
         return value.typeId() == qMetaTypeId<T>() ? std::optional(value.value<T>()) : std::nullopt;

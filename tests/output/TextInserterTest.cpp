@@ -77,8 +77,8 @@ TEST_F(TextInserterTest, ACopyMadeMeanwhileIsKept)
 
 TEST_F(TextInserterTest, HeldModifiersDelayThePasteByOneSecondAtMost)
 {
-    for (const uint32_t modifier : {EventFlag::shift, EventFlag::control, EventFlag::option, EventFlag::command,
-                                    EventFlag::function}) {
+    for (const uint32_t modifier :
+         {EventFlag::shift, EventFlag::control, EventFlag::option, EventFlag::command, EventFlag::function}) {
         fake.keyEvents.posted.clear();
         fake.keyEvents.heldModifiers = modifier;
         insert(u"text"_s);

@@ -46,8 +46,7 @@ protected:
         return ApiClient(fake.preferences, fake.packagedInfo, fake.secrets, consent, timeout);
     }
 
-    template <typename T>
-    static std::optional<ApiError> errorOf(QCoro::Task<T> task)
+    template <typename T> static std::optional<ApiError> errorOf(QCoro::Task<T> task)
     {
         try {
             resultOf(std::move(task));
@@ -148,7 +147,10 @@ TEST_F(ApiClientTest, EveryReplyThatIsNoSuccessBecomesItsError)
         int status;
     };
     const Row table[] = {
-        {{402, R"({"error":"insufficient_tokens","message":"Buy some."})"}, u"insufficient_tokens"_s, u"Buy some."_s, 402},
+        {{402, R"({"error":"insufficient_tokens","message":"Buy some."})"},
+         u"insufficient_tokens"_s,
+         u"Buy some."_s,
+         402},
         {{402, R"({"error":"insufficient_tokens"})"}, u"insufficient_tokens"_s, somethingWrong, 402},
         {{400, R"({"message":"No such thing."})"}, u"server_error"_s, u"No such thing."_s, 400},
         {{503, R"({"error":null,"message":null})"}, u"server_error"_s, somethingWrong, 503},
@@ -178,8 +180,8 @@ TEST_F(ApiClientTest, EveryReplyThatIsNoSuccessBecomesItsError)
 
 TEST_F(ApiClientTest, RepliesDecodeTheirOptionalMembers)
 {
-    for (const auto &[json, unmetered] :
-         {std::pair{R"({"balance":-3,"unmetered":true,"more":[]})", true}, {R"({"balance":-3.0,"unmetered":null})", false}}) {
+    for (const auto &[json, unmetered] : {std::pair{R"({"balance":-3,"unmetered":true,"more":[]})", true},
+                                          {R"({"balance":-3.0,"unmetered":null})", false}}) {
         reply.body = json;
         const Balance balance = resultOf(client().balance());
         EXPECT_EQ(balance.balance, -3);
@@ -205,8 +207,8 @@ TEST_F(ApiClientTest, ADeviceThatIsNoLongerKnownRegistersAnewOnce)
             return HttpServer::Response{200, registration};
         }
         return request.headers.value("authorization") == "Bearer dev.s3cret"
-            ? HttpServer::Response{200, R"({"balance":1})"}
-            : HttpServer::Response{401, "", Ending::Complete, "WWW-Authenticate: Bearer\r\n"};
+                   ? HttpServer::Response{200, R"({"balance":1})"}
+                   : HttpServer::Response{401, "", Ending::Complete, "WWW-Authenticate: Bearer\r\n"};
     };
     EXPECT_EQ(resultOf(client().balance()).balance, 1);
     EXPECT_EQ(server.count("/v1/balance"), 2);
@@ -229,9 +231,9 @@ TEST_F(ApiClientTest, AFailedRegistrationIsTheErrorAndStoresNothing)
         QString code;
         int status;
     };
-    for (const Row &row : {Row{{200, R"({"deviceId":"dev"})"}, u"server_error"_s, 200},
-                           Row{{401, R"({"error":"no"})"}, u"no"_s, 401},
-                           Row{{200, R"({"deviceId":"d","secret":"s","freeGrantMissed":"yes"})"}, u"server_error"_s, 200}}) {
+    for (const Row &row :
+         {Row{{200, R"({"deviceId":"dev"})"}, u"server_error"_s, 200}, Row{{401, R"({"error":"no"})"}, u"no"_s, 401},
+          Row{{200, R"({"deviceId":"d","secret":"s","freeGrantMissed":"yes"})"}, u"server_error"_s, 200}}) {
         const auto before = server.requests().size();
         server.onRequest = [&](const HttpServer::Request &) { return row.reply; };
         const auto error = errorOf(client().balance());
@@ -284,9 +286,10 @@ TEST_F(ApiClientTest, ARecordingIsUploadedByteForByteUnderAFreshBoundary)
         const QByteArray boundary = type.sliced(30);
         static const QRegularExpression form(u"^qlo-[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}$"_s);
         EXPECT_TRUE(form.match(QString::fromLatin1(boundary)).hasMatch());
-        EXPECT_TRUE(request.body
-                    == "--" + boundary + "\r\nContent-Disposition: form-data; name=\"file\"; filename=\"dictation ü.m4a\""
-                        + "\r\nContent-Type: audio/mp4\r\n\r\n" + sound + "\r\n--" + boundary + "--\r\n");
+        EXPECT_TRUE(request.body ==
+                    "--" + boundary +
+                        "\r\nContent-Disposition: form-data; name=\"file\"; filename=\"dictation ü.m4a\"" +
+                        "\r\nContent-Type: audio/mp4\r\n\r\n" + sound + "\r\n--" + boundary + "--\r\n");
         boundaries.insert(boundary);
     }
     EXPECT_EQ(boundaries.size(), 2);
@@ -319,6 +322,7 @@ TEST_F(ApiClientTest, NothingIsReadOrSentWithoutConsentOrRecording)
     consent.grant();
     expectError(errorOf(client().transcribe(recording({}))), u"no_audio"_s,
                 u"Nothing was recorded. Check microphone access."_s, 0);
-    expectError(errorOf(client().transcribe(u"/nonexistent.m4a"_s)), u"no_audio"_s, u"Couldn't read the recording."_s, 0);
+    expectError(errorOf(client().transcribe(u"/nonexistent.m4a"_s)), u"no_audio"_s, u"Couldn't read the recording."_s,
+                0);
     EXPECT_TRUE(server.requests().isEmpty());
 }

@@ -55,7 +55,9 @@ TEST_F(ShortcutMonitorTest, SequencesOfASingleModifierKey)
         {"twin alone", {leftOptionDown, flags(58, 0)}, ""},
         {"pressed while the twin is held", {leftOptionDown, rightWithLeftOption, rightUpLeftStays}, "pr"},
         {"letter first", {aDown, rightOptionDown, rightOptionUp}, "pr"},
-        {"interrupted, then used again", {rightOptionDown, aDown, rightOptionUp, rightOptionDown, rightOptionUp}, "pipr"},
+        {"interrupted, then used again",
+         {rightOptionDown, aDown, rightOptionUp, rightOptionDown, rightOptionUp},
+         "pipr"},
     };
     for (const Row &row : table) {
         EXPECT_TRUE(monitor.activate(Shortcut::modifier(ModifierKey::RightOption)));

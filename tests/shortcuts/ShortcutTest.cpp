@@ -61,8 +61,8 @@ TEST(ShortcutTest, MenuEquivalentsExistForKeysAMenuCanShow)
         std::optional<QString> expected;
     };
     for (const Row &row : {Row{u"K"_s, u"k"_s}, Row{u"Space"_s, u" "_s}, Row{u"Return"_s, u"\r"_s}, Row{u"←"_s, u"←"_s},
-                           Row{u"👍🏽"_s, u"👍🏽"_s}, Row{u"F5"_s, std::nullopt}, Row{u"Page Up"_s, std::nullopt},
-                           Row{u""_s, std::nullopt}}) {
+                           Row{u"👍🏽"_s, u"👍🏽"_s}, Row{u"F5"_s, std::nullopt},
+                           Row{u"Page Up"_s, std::nullopt}, Row{u""_s, std::nullopt}}) {
         const auto shortcut = Shortcut::combo(40, 0x1801, row.key).menuShortcut();
         EXPECT_EQ(shortcut.has_value(), row.expected.has_value()) << row.key.toStdString();
         if (shortcut && row.expected) {
@@ -76,11 +76,11 @@ TEST(ShortcutTest, StoredFormIsReadBackAndHasTheAgreedKeys)
 {
     EXPECT_EQ(Shortcut::fromJson(R"({"combo":{"keyCode":49,"modifiers":6144,"key":"Space","extra":1},"other":2})"),
               Shortcut::combo(49, 0x1800, u"Space"_s));
-    EXPECT_EQ(Shortcut::fromJson(R"({"modifier":{"_0":"rightOption"}})"),
-              Shortcut::modifier(ModifierKey::RightOption));
+    EXPECT_EQ(Shortcut::fromJson(R"({"modifier":{"_0":"rightOption"}})"), Shortcut::modifier(ModifierKey::RightOption));
     EXPECT_EQ(Shortcut::modifier(ModifierKey::RightCommand).toJson(), R"({"modifier":{"_0":"rightCommand"}})");
-    for (const Shortcut &shortcut : {Shortcut::combo(123, 0, u"←"_s), Shortcut::combo(0xFFFFFFFF, 0xFFFFFFFF, u""_s),
-                                     Shortcut::modifier(ModifierKey::Fn), Shortcut::modifier(ModifierKey::RightControl)}) {
+    for (const Shortcut &shortcut :
+         {Shortcut::combo(123, 0, u"←"_s), Shortcut::combo(0xFFFFFFFF, 0xFFFFFFFF, u""_s),
+          Shortcut::modifier(ModifierKey::Fn), Shortcut::modifier(ModifierKey::RightControl)}) {
         EXPECT_EQ(Shortcut::fromJson(shortcut.toJson()), shortcut);
     }
 }
@@ -91,8 +91,10 @@ TEST(ShortcutTest, AnythingElseIsNoShortcut)
          {"", "null", "[]", "{}", R"({"combo":{"keyCode":49,"modifiers":0,"key":"A"},"modifier":{"_0":"fn"}})",
           R"({"modifier":{"_0":"leftOption"}})", R"({"modifier":{}})", R"({"modifier":"fn"})",
           R"({"combo":{"keyCode":49,"modifiers":0}})", R"({"combo":{"keyCode":"49","modifiers":0,"key":"A"}})",
-          R"({"combo":{"keyCode":-1,"modifiers":0,"key":"A"}})", R"({"combo":{"keyCode":4294967296,"modifiers":0,"key":"A"}})",
-          R"({"combo":{"keyCode":1.5,"modifiers":0,"key":"A"}})", R"({"combo":{"keyCode":true,"modifiers":0,"key":"A"}})"}) {
+          R"({"combo":{"keyCode":-1,"modifiers":0,"key":"A"}})",
+          R"({"combo":{"keyCode":4294967296,"modifiers":0,"key":"A"}})",
+          R"({"combo":{"keyCode":1.5,"modifiers":0,"key":"A"}})",
+          R"({"combo":{"keyCode":true,"modifiers":0,"key":"A"}})"}) {
         EXPECT_FALSE(Shortcut::fromJson(json)) << json;
     }
 }

@@ -79,8 +79,13 @@ TEST_F(GroupStoreTest, CyclingGoesThroughAllEntriesBothWays)
 {
     writeFile(twoGroups);
     GroupStore store(files, preferences);
-    for (const auto &[forward, expected] : std::initializer_list<std::pair<bool, std::optional<QString>>>{
-             {true, u"A"_s}, {true, u"B"_s}, {true, std::nullopt}, {false, u"B"_s}, {false, u"A"_s}, {false, std::nullopt}}) {
+    for (const auto &[forward, expected] :
+         std::initializer_list<std::pair<bool, std::optional<QString>>>{{true, u"A"_s},
+                                                                        {true, u"B"_s},
+                                                                        {true, std::nullopt},
+                                                                        {false, u"B"_s},
+                                                                        {false, u"A"_s},
+                                                                        {false, std::nullopt}}) {
         store.cycle(forward);
         EXPECT_EQ(store.activeId(), expected);
         EXPECT_EQ(storedActiveId().isValid(), expected.has_value());

@@ -75,7 +75,8 @@ TEST_F(TranscriptionStoreTest, NewEntryStandsFirstWithIdAndUtcTimeAndSurvivesARe
     EXPECT_EQ(newest.text, u"line\n\"quoted\" \\ \t\u0001 ünïcödé 🎙"_s);
     EXPECT_EQ(newest.timestamp, u"2026-01-31T12:00:01Z"_s);
     EXPECT_EQ(newest.categoryId, u"work"_s);
-    static const QRegularExpression upperCaseUuid(u"^[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-[0-9A-F]{12}$"_s);
+    static const QRegularExpression upperCaseUuid(
+        u"^[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-[0-9A-F]{12}$"_s);
     EXPECT_TRUE(upperCaseUuid.match(newest.id).hasMatch());
     EXPECT_FALSE(stored().at(1).toObject().contains(u"categoryId"_s));
 }
@@ -83,7 +84,12 @@ TEST_F(TranscriptionStoreTest, NewEntryStandsFirstWithIdAndUtcTimeAndSurvivesARe
 TEST_F(TranscriptionStoreTest, FilesThatAreNoHistoryLoadAsEmptyAndAreReplacedByTheNextChange)
 {
     const QByteArray table[] = {
-        "", "not json", "{}", "null", "[1]", R"([{"id":"A","text":"one"}])",
+        "",
+        "not json",
+        "{}",
+        "null",
+        "[1]",
+        R"([{"id":"A","text":"one"}])",
         R"([{"id":"A","text":"one","timestamp":5}])",
         R"([{"id":"A","text":"one","timestamp":"t","categoryId":7}])",
         R"([{"id":"A","text":"one","timestamp":"t"},{"id":null,"text":"two","timestamp":"t"}])",

@@ -30,8 +30,7 @@ inline bool await(const std::function<bool()> &condition, std::chrono::milliseco
 }
 
 /// Runs the event loop until the coroutine ends; returns its result or throws what it threw.
-template <typename T>
-T resultOf(QCoro::Task<T> task)
+template <typename T> T resultOf(QCoro::Task<T> task)
 {
     std::optional<T> result;
     std::exception_ptr failure;

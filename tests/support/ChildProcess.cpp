@@ -11,8 +11,8 @@ namespace {
 
 [[noreturn]] void fail(QProcess &process, const char *what)
 {
-    const QString text = process.program() + QStringLiteral(": ") + QString::fromLatin1(what) + QLatin1Char('\n')
-        + QString::fromUtf8(process.readAllStandardError());
+    const QString text = process.program() + QStringLiteral(": ") + QString::fromLatin1(what) + QLatin1Char('\n') +
+                         QString::fromUtf8(process.readAllStandardError());
     throw std::runtime_error(text.toStdString());
 }
 
@@ -29,8 +29,7 @@ void start(QProcess &process, const QString &program, const QStringList &argumen
 
 } // namespace
 
-ChildProcess::ChildProcess(const QString &program, const QStringList &arguments,
-                           const QProcessEnvironment &environment)
+ChildProcess::ChildProcess(const QString &program, const QStringList &arguments, const QProcessEnvironment &environment)
 {
     start(m_process, program, arguments, environment);
 }

@@ -74,8 +74,8 @@ void HttpServer::answer(QTcpSocket &socket, const Request &request)
     case Response::Ending::Complete:
         break;
     }
-    socket.write("HTTP/1.1 " + QByteArray::number(response.status) + " Status\r\nContent-Length: "
-                 + QByteArray::number(response.body.size()) + "\r\n" + response.headers + "\r\n");
+    socket.write("HTTP/1.1 " + QByteArray::number(response.status) + " Status\r\nContent-Length: " +
+                 QByteArray::number(response.body.size()) + "\r\n" + response.headers + "\r\n");
     if (response.ending == Response::Ending::CutInBody) {
         socket.write(response.body.first(response.body.size() / 2));
         socket.disconnectFromHost();

@@ -16,16 +16,15 @@ Session::Session(Keyring keyring)
         QDir().mkpath(folder);
         QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
-    m_bus = std::make_unique<ChildProcess>(u"dbus-daemon"_s,
-                                           QStringList{u"--session"_s, u"--nofork"_s, u"--print-address"_s},
-                                           environment());
+    m_bus = std::make_unique<ChildProcess>(
+        u"dbus-daemon"_s, QStringList{u"--session"_s, u"--nofork"_s, u"--print-address"_s}, environment());
     m_busAddress = m_bus->readLine();
     if (keyring == Keyring::None) {
         return;
     }
-    m_keyring = std::make_unique<ChildProcess>(
-        u"gnome-keyring-daemon"_s, QStringList{u"--foreground"_s, u"--unlock"_s, u"--components=secrets"_s},
-        environment());
+    m_keyring = std::make_unique<ChildProcess>(u"gnome-keyring-daemon"_s,
+                                               QStringList{u"--foreground"_s, u"--unlock"_s, u"--components=secrets"_s},
+                                               environment());
     m_keyring->process().write("password");
     m_keyring->process().closeWriteChannel();
     // The daemon takes its name first and opens its collection a little later; asking for the name without its being

@@ -17,8 +17,7 @@ public:
     explicit Session(Keyring keyring = Keyring::Unlocked);
 
     /// `base` with the session's folders and bus.
-    QProcessEnvironment environment(
-        const QProcessEnvironment &base = QProcessEnvironment::systemEnvironment()) const;
+    QProcessEnvironment environment(const QProcessEnvironment &base = QProcessEnvironment::systemEnvironment()) const;
 
     /// Makes it the session of this process, for libraries that read the environment.
     void use() const;

@@ -11,10 +11,7 @@
 /// Forwards the connections; lives in the tap's thread.
 class WireTap::Worker : public QObject {
 public:
-    Worker(WireTap &tap, quint16 serverPort)
-        : m_tap(tap)
-        , m_serverPort(serverPort)
-        , m_server(this)
+    Worker(WireTap &tap, quint16 serverPort) : m_tap(tap), m_serverPort(serverPort), m_server(this)
     {
         connect(&m_server, &QTcpServer::newConnection, this, [this] {
             while (QTcpSocket *client = m_server.nextPendingConnection()) {
@@ -84,7 +81,8 @@ WireTap::WireTap(quint16 serverPort)
     worker->moveToThread(&m_thread);
     QObject::connect(&m_thread, &QThread::finished, worker, &QObject::deleteLater);
     m_thread.start();
-    QMetaObject::invokeMethod(worker, [worker] { return worker->listen(); }, Qt::BlockingQueuedConnection, &m_port);
+    QMetaObject::invokeMethod(
+        worker, [worker] { return worker->listen(); }, Qt::BlockingQueuedConnection, &m_port);
     if (m_port == 0) {
         throw std::runtime_error("no port on loopback");
     }

@@ -30,9 +30,10 @@ TEST_F(RecordingHUDTest, NoticesHideByThemselvesAndTheRestStays)
         std::optional<std::chrono::milliseconds> hidesAfter;
         bool isClickable;
     };
-    for (const Row &row : {Row{HUDPhase::Message{u"m"_s, true}, 2500ms, false}, Row{HUDPhase::Group{u"g"_s}, 2500ms, false},
-                           Row{HUDPhase::OutOfTokens{}, 8000ms, true}, Row{HUDPhase::Recording{}, std::nullopt, false},
-                           Row{HUDPhase::Transcribing{}, std::nullopt, false}}) {
+    for (const Row &row :
+         {Row{HUDPhase::Message{u"m"_s, true}, 2500ms, false}, Row{HUDPhase::Group{u"g"_s}, 2500ms, false},
+          Row{HUDPhase::OutOfTokens{}, 8000ms, true}, Row{HUDPhase::Recording{}, std::nullopt, false},
+          Row{HUDPhase::Transcribing{}, std::nullopt, false}}) {
         hud.show(row.phase);
         EXPECT_EQ(hud.model().phase(), row.phase);
         EXPECT_EQ(panel.ignoresMouse, !row.isClickable);

@@ -5,10 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-IniPreferences::IniPreferences(const QString &path)
-    : m_settings(path, QSettings::IniFormat)
-{
-}
+IniPreferences::IniPreferences(const QString &path) : m_settings(path, QSettings::IniFormat) {}
 
 QString IniPreferences::defaultPath()
 {

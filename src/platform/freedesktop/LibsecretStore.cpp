@@ -21,8 +21,7 @@ const SecretSchema *schema()
 }
 
 /// Hands one answer of libsecret to the coroutine that waits for it; libsecret owns it until then.
-template <typename T>
-class Answer {
+template <typename T> class Answer {
 public:
     Answer() { m_promise.start(); }
     QFuture<T> future() const { return m_promise.future(); }

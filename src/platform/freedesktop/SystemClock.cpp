@@ -9,8 +9,7 @@ namespace {
 
 class SystemTimer : public Clock::Timer {
 public:
-    SystemTimer(Clock::Duration interval, bool singleShot, Clock::Callback callback)
-        : m_timer(new QTimer)
+    SystemTimer(Clock::Duration interval, bool singleShot, Clock::Callback callback) : m_timer(new QTimer)
     {
         m_timer->setTimerType(Qt::PreciseTimer);
         m_timer->setSingleShot(singleShot);
