@@ -134,23 +134,18 @@ TEST_F(KeyMonitorsTest, HandlerMayEndMonitors)
 
 TEST_F(KeyMonitorsTest, RawEventsAreAskedForOnlyWhileAMonitorExists)
 {
-    int events = 0;
-    struct Counter : X11Listener {
-        Counter(X11Connection &connection, int &seen) : X11Listener(connection), count(seen) {}
-        void handle(const xcb_generic_event_t &event) override { count += eventType(event) == XCB_GE_GENERIC ? 1 : 0; }
-        int &count;
-    } counter(*connection, events);
+    const EventCounter events(*connection, XCB_GE_GENERIC);
     user.tap(KEY_A);
     settle();
-    EXPECT_EQ(events, 0);
+    EXPECT_EQ(events.count(), 0);
     monitors.addGlobal(logTo(log)).reset();
     user.tap(KEY_A);
     settle();
-    EXPECT_EQ(events, 0);
+    EXPECT_EQ(events.count(), 0);
     const auto monitor = monitors.addLocal(logTo(log));
     user.tap(KEY_A);
     settle();
-    EXPECT_EQ(events, 2);
+    EXPECT_EQ(events.count(), 2);
 }
 
 } // namespace

@@ -209,6 +209,8 @@ TEST_F(PasteboardTest, OwnerThatStopsAnsweringYieldsWhatWasReadUntilThen)
     clock.advance(SelectionReader::silenceLimit);
     ASSERT_TRUE(reading->items);
     EXPECT_EQ(*reading->items, (QList{PasteboardItem{{u"first"_s, {"one", u"kind"_s}}}}));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(user.takeEvents(XCB_SELECTION_REQUEST), 0) << "it is not asked any more";
 }
 
 TEST_F(PasteboardTest, OwnerThatNeverEndsIsGivenUpAfterTheTotalLimit)

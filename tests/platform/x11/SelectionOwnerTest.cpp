@@ -30,7 +30,7 @@ protected:
 
 TEST_F(SelectionOwnerTest, ReaderThatGoesAwayIsForgotten)
 {
-    SelectionOwner owner(*connection);
+    SelectionOwner owner(*connection, 1h);
     const auto window = requestParts(owner);
     EXPECT_EQ(owner.transferCount(), 1U);
     user.destroyWindow(window);

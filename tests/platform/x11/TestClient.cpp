@@ -198,12 +198,12 @@ std::string TestClient::takeKeys()
     return keys.join(QChar(u' ')).toStdString();
 }
 
-int TestClient::takeClicks()
+int TestClient::takeEvents(uint8_t type)
 {
     sync();
-    int clicks = 0;
+    int count = 0;
     while (const XcbPtr<xcb_generic_event_t> event{xcb_poll_for_event(m_xcb)}) {
-        clicks += eventType(*event) == XCB_BUTTON_PRESS ? 1 : 0;
+        count += eventType(*event) == type ? 1 : 0;
     }
-    return clicks;
+    return count;
 }

@@ -53,8 +53,8 @@ public:
     /// The keys its windows got until now, like "+37/0 -37/4": pressed or released, key code, modifiers before.
     std::string takeKeys();
 
-    /// How many clicks they got.
-    int takeClicks();
+    /// How many events of a type came until now.
+    int takeEvents(uint8_t type);
 
 private:
     void fake(uint8_t type, int detail, int x = 0, int y = 0);

@@ -11,6 +11,20 @@
 #include <gmock/gmock.h>
 #include <linux/input-event-codes.h>
 
+/// Counts the events of one type that a connection gets.
+class EventCounter final : private X11Listener {
+public:
+    EventCounter(X11Connection &connection, uint8_t type) : X11Listener(connection), m_type(type) {}
+
+    int count() const { return m_count; }
+
+private:
+    void handle(const xcb_generic_event_t &event) override { m_count += eventType(event) == m_type ? 1 : 0; }
+
+    uint8_t m_type;
+    int m_count = 0;
+};
+
 /// A display with the program's connection and another client that stands for the user.
 class X11Fixture : public testing::Test {
 protected:
