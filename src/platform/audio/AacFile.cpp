@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int outputBufferSize = 4096; // half a second at 64 kbit/s
+constexpr int outputBufferSize = 4096; // holds a packet; each is written as it comes
 constexpr int samplesPerFrame = 1024;
 constexpr int maxBitsPerFrame = 6144; // of one AAC channel
 

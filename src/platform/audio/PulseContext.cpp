@@ -8,10 +8,12 @@
 PulseContext::PulseContext(QByteArray server)
     : m_server(std::move(server)), m_loop(pa_threaded_mainloop_new()), m_source([this] { postChanged(); })
 {
+    if (m_loop) {
+        pa_threaded_mainloop_set_name(m_loop.get(), "quillo-audio"); // later it would name the calling thread
+    }
     if (!m_loop || pa_threaded_mainloop_start(m_loop.get()) < 0) {
         throw std::runtime_error("no thread for the sound server's connection");
     }
-    pa_threaded_mainloop_set_name(m_loop.get(), "quillo-audio");
 }
 
 PulseContext::~PulseContext()

@@ -22,7 +22,7 @@ PulseRecorder::PulseRecorder(PulseContext &context, Clock &clock, const QString 
 
 PulseRecorder::~PulseRecorder()
 {
-    stop();
+    PulseRecorder::stop();
 }
 
 bool PulseRecorder::record()

@@ -61,8 +61,7 @@ TEST_F(PulseMicrophoneTest, RecordsWhatIsHeardWhileItIsHeard)
 {
     const SoundServer server;
     PulseMicrophone microphone(m_clock, server.address());
-    const auto recorder = makeRecorder(microphone);
-    EXPECT_TRUE(recorder->record());
+    const auto recorder = startRecording(microphone);
     EXPECT_TRUE(recorder->isRecording());
 
     writeRaw(m_folder.filePath(u"tone.raw"_s), tone(1000, 48000, 1.5));

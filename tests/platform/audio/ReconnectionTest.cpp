@@ -63,6 +63,8 @@ TEST_F(ReconnectionTest, ARecordingAfterTheServerCameBackNeedsNoWaiting)
     const auto recorder = microphone.makeRecorder(folder.filePath(u"speech.m4a"_s), speechSettings());
     EXPECT_TRUE(recorder->record());
     EXPECT_TRUE(await([&] { return recorder->currentTime() > 0; }));
+    recorder->stop();
+    EXPECT_EQ(m_clock.pending(), 0);
 }
 
 TEST(Reconnection, FindsTheFolderOfALocalSocket)
