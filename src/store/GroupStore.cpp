@@ -56,7 +56,7 @@ std::optional<DictationGroup> GroupStore::group(const std::optional<QString> &id
 
 DictationGroup GroupStore::add(const QString &name)
 {
-    const DictationGroup added{newIdentifier(), name, u"folder"_s};
+    DictationGroup added{newIdentifier(), name, u"folder"_s};
     m_groups.append(added);
     save();
     return added;
@@ -111,7 +111,7 @@ void GroupStore::load()
         return;
     }
     QList<DictationGroup> groups;
-    for (const QJsonValue &value : *stored) {
+    for (const auto &value : *stored) {
         const auto group = decode(value);
         if (!group) {
             return; // one bad element makes the whole file unreadable

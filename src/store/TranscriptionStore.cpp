@@ -98,7 +98,7 @@ void TranscriptionStore::load()
     }
     QList<Transcription> items;
     items.reserve(stored->size());
-    for (const QJsonValue &value : *stored) {
+    for (const auto &value : *stored) {
         auto entry = decode(value);
         if (!entry) {
             return; // one bad element makes the whole file unreadable: no guess at what the rest was meant to be
