@@ -4,12 +4,16 @@
 #include <QByteArray>
 #include <QCoroTask>
 #include <QList>
-#include <QNetworkAccessManager>
 #include <QPair>
+#include <QThreadPool>
 #include <QUrl>
 
 #include <chrono>
+#include <memory>
 #include <optional>
+#include <vector>
+
+class HttpConnection;
 
 struct HttpRequest {
     /// "GET" or "POST".
@@ -24,17 +28,26 @@ struct HttpResponse {
     QByteArray body;
 };
 
-/// One HTTP exchange at a time and never twice: no redirect is followed, nothing is sent again, no cookie is kept,
-/// TLS certificates are verified. Main thread only; the wait suspends.
+/// HTTP exchanges, each sent once: no redirect is followed, no body is sent again, no cookie is kept, TLS certificates
+/// are verified. Exchanges run in threads of their own, so that an upload does not wait for the main thread to draw;
+/// called and resumed on the main thread. The proxies of the environment are used.
 class HttpTransport {
 public:
-    /// `timeout`: a request without any progress for this long has failed.
+    /// `timeout`: an exchange without any progress for this long has failed.
     explicit HttpTransport(std::chrono::milliseconds timeout);
+    HttpTransport(const HttpTransport &) = delete;
+    HttpTransport &operator=(const HttpTransport &) = delete;
+    /// Breaks off what is under way.
+    ~HttpTransport();
 
     /// Nothing when no complete response arrived: offline, name resolution, TLS, connection lost, time-out.
     QCoro::Task<std::optional<HttpResponse>> perform(HttpRequest request);
 
 private:
-    QNetworkAccessManager m_manager;
+    HttpConnection *takeIdle();
+
     std::chrono::milliseconds m_timeout;
+    std::vector<std::unique_ptr<HttpConnection>> m_connections;
+    std::vector<HttpConnection *> m_idle;
+    QThreadPool m_threads;
 };
