@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "platform/freedesktop/LibsecretStore.h"
+#include "service/Keychain.h"
+
+#include "support/Await.h"
+#include "support/Printing.h"
+#include "support/Session.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class SecretStoreTest : public ::testing::Test {
+protected:
+    static void SetUpTestSuite()
+    {
+        session = std::make_unique<Session>();
+        session->use();
+    }
+    static void TearDownTestSuite() { session.reset(); }
+
+    static std::optional<QString> read(Keychain &keychain, const QString &account)
+    {
+        return resultOf(keychain.read(account));
+    }
+
+    static void finish(QCoro::Task<void> task)
+    {
+        bool done = false;
+        [](QCoro::Task<void> &awaited, bool &ended) -> QCoro::Task<void> {
+            co_await awaited;
+            ended = true;
+        }(task, done);
+        ASSERT_TRUE(await([&] { return done; }));
+    }
+
+    /// What another program finds for an account.
+    static QByteArray found(const QString &account)
+    {
+        return run(u"secret-tool"_s,
+                   {u"search"_s, u"--all"_s, u"service"_s, u"app.quillo.Quillo"_s, u"account"_s, account},
+                   session->environment());
+    }
+
+    static inline std::unique_ptr<Session> session;
+    LibsecretStore store;
+    Keychain keychain{store};
+};
+
+} // namespace
+
+TEST_F(SecretStoreTest, WritingReplacesTheOneItemOfTheAccount)
+{
+    finish(keychain.write(u"other"_s, u"untouched"_s));
+    EXPECT_EQ(read(keychain, u"credential"_s), std::nullopt);
+    for (const QString &value : {u"first-value"_s, u"Grüße 日本"_s}) {
+        finish(keychain.write(u"credential"_s, value));
+        EXPECT_EQ(read(keychain, u"credential"_s), value);
+        const QByteArray items = found(u"credential"_s);
+        EXPECT_EQ(items.count("secret = "), 1);
+        EXPECT_TRUE(items.contains("secret = " + value.toUtf8() + '\n')) << items.constData();
+    }
+    EXPECT_FALSE(found(u"credential"_s).contains("first-value"));
+    EXPECT_EQ(read(keychain, u"other"_s), u"untouched"_s);
+
+    finish(keychain.remove(u"credential"_s));
+    EXPECT_EQ(read(keychain, u"credential"_s), std::nullopt);
+    EXPECT_EQ(found(u"credential"_s), "");
+    EXPECT_EQ(read(keychain, u"other"_s), u"untouched"_s);
+}
+
+TEST_F(SecretStoreTest, BytesComeBackAsTheyAre)
+{
+    const auto bytes = QByteArrayLiteral("a\0\xff\n");
+    EXPECT_TRUE(resultOf(store.add(u"app.quillo.Quillo"_s, u"bytes"_s, bytes)));
+    EXPECT_EQ(resultOf(store.read(u"app.quillo.Quillo"_s, u"bytes"_s)), bytes);
+    EXPECT_EQ(read(keychain, u"bytes"_s), std::nullopt) << "no UTF-8";
+}
+
+TEST_F(SecretStoreTest, RemovingWhatIsNotThereIsNoFailure)
+{
+    EXPECT_TRUE(resultOf(store.remove(u"app.quillo.Quillo"_s, u"missing"_s)));
+}
