@@ -60,6 +60,7 @@ Desktop::Desktop()
                 {u"--port"_s, u"0"_s, u"--database"_s, m_session.path(u"backend.db"_s)}, m_session.environment()),
       m_tap(listeningPort(m_backend))
 {
+    run(u"xsetroot"_s, {u"-solid"_s, u"#4d7ea8"_s}, environment());
     writePreferences();
     startEditor();
     startQuillo();

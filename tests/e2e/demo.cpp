@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QTextStream>
+#include <QTimer>
 
 #include <exception>
 
@@ -40,6 +41,14 @@ void printTimes(QTextStream &out, const Desktop::Dictation &dictation)
     printRow(out, u"total"_s, milliseconds(dictation.released, dictation.onScreen));
 }
 
+/// A moment into the phase, when the voice has set in and the panel has faded in.
+void takePicture(const Desktop &desktop, const QString &path, std::chrono::milliseconds wait)
+{
+    QTimer::singleShot(wait, QCoreApplication::instance(), &QCoreApplication::quit);
+    QCoreApplication::exec();
+    desktop.screenshot(path);
+}
+
 bool demonstrate(QTextStream &out, const QString &folder)
 {
     const QByteArray earlier = "what the user had copied before";
@@ -52,7 +61,8 @@ bool demonstrate(QTextStream &out, const QString &folder)
     out << u"Dictating twice into a text editor with Ctrl+Alt+Space held ...\n"_s << Qt::flush;
     // The pictures are taken in the first dictation, so that they cost the second, measured one nothing.
     const auto first = desktop.dictate(
-        Speech::goForward(), [&] { desktop.screenshot(listening); }, [&] { desktop.screenshot(transcribing); });
+        Speech::goForward(), [&] { takePicture(desktop, listening, std::chrono::milliseconds(1100)); },
+        [&] { takePicture(desktop, transcribing, std::chrono::milliseconds(180)); });
     const bool firstRestored = desktop.awaitClipboard(earlier);
     desktop.screenshot(pasted);
     const auto second = desktop.dictate(Speech::goForward());
