@@ -127,6 +127,6 @@ void GroupStore::save()
     for (const DictationGroup &group : std::as_const(m_groups)) {
         array.append(QJsonObject{{u"id"_s, group.id}, {u"name"_s, group.name}, {u"kind"_s, group.kind}});
     }
-    m_file.write(QJsonDocument(array).toJson(QJsonDocument::Compact));
+    m_file.write({QJsonDocument(array).toJson(QJsonDocument::Compact)});
     Q_EMIT groupsChanged();
 }

@@ -26,9 +26,9 @@ std::optional<QJsonArray> JsonArrayFile::read() const
     return document.isArray() ? std::optional(document.array()) : std::nullopt;
 }
 
-void JsonArrayFile::write(const QByteArray &json)
+void JsonArrayFile::write(const QList<QByteArrayView> &json)
 {
-    m_files.replace(m_path, {json});
+    m_files.replace(m_path, json);
 }
 
 std::optional<QString> stringAt(const QJsonObject &object, const QString &key)

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
+#include <QByteArrayView>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QList>
 #include <QString>
 
 #include <optional>
@@ -21,8 +22,9 @@ public:
     /// Nothing when the file can't be read or holds no JSON array.
     std::optional<QJsonArray> read() const;
 
-    /// Replaces the file, durably, mode 0600. `json` is the whole text of the array. Failures are silent.
-    void write(const QByteArray &json);
+    /// Replaces the file, durably, mode 0600. The pieces, one after the other, are the whole text of the array.
+    /// Failures are silent.
+    void write(const QList<QByteArrayView> &json);
 
 private:
     Files &m_files;

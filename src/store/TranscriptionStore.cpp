@@ -65,7 +65,12 @@ QList<Transcription> TranscriptionStore::items(const std::optional<QString> &gro
 
 void TranscriptionStore::add(const QString &text, const std::optional<QString> &groupId)
 {
-    m_items.prepend({newIdentifier(), text, timestamp(m_clock.now()), groupId});
+    const Transcription entry{newIdentifier(), text, timestamp(m_clock.now()), groupId};
+    JsonWriter json;
+    encode(json, entry);
+    json.raw(m_items.isEmpty() ? "" : ",");
+    m_items.prepend(entry);
+    m_entriesJson.prepend(json.bytes());
     save();
 }
 
@@ -74,6 +79,7 @@ void TranscriptionStore::move(const QString &id, const std::optional<QString> &g
     const auto entry = std::ranges::find(m_items, id, &Transcription::id);
     if (entry != m_items.end()) {
         entry->categoryId = groupId;
+        encodeAll();
         save();
     }
 }
@@ -81,12 +87,14 @@ void TranscriptionStore::move(const QString &id, const std::optional<QString> &g
 void TranscriptionStore::remove(const QString &id)
 {
     m_items.removeIf([&](const Transcription &entry) { return entry.id == id; });
+    encodeAll();
     save();
 }
 
 void TranscriptionStore::clear()
 {
     m_items.clear();
+    encodeAll();
     save();
 }
 
@@ -106,19 +114,23 @@ void TranscriptionStore::load()
         items.append(std::move(*entry));
     }
     m_items = std::move(items);
+    encodeAll();
 }
 
-void TranscriptionStore::save()
+void TranscriptionStore::encodeAll()
 {
     JsonWriter json;
-    json.raw("[");
     for (qsizetype i = 0; i < m_items.size(); ++i) {
         if (i > 0) {
             json.raw(",");
         }
         encode(json, m_items.at(i));
     }
-    json.raw("]");
-    m_file.write(json.bytes());
+    m_entriesJson = json.bytes();
+}
+
+void TranscriptionStore::save()
+{
+    m_file.write({"[", m_entriesJson, "]"});
     Q_EMIT itemsChanged();
 }

@@ -3,6 +3,7 @@
 
 #include "store/JsonArrayFile.h"
 
+#include <QByteArray>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -53,9 +54,12 @@ Q_SIGNALS:
 
 private:
     void load();
+    void encodeAll();
     void save();
 
     const Clock &m_clock;
     JsonArrayFile m_file;
     QList<Transcription> m_items;
+    /// What the file holds between its brackets. Kept, so that a new entry costs the encoding of that entry alone.
+    QByteArray m_entriesJson;
 };

@@ -135,6 +135,13 @@ TEST_F(TranscriptionStoreTest, MoveTakesTheFirstEntryOfAnIdAndRemoveAllOfThem)
     EXPECT_EQ(files.writes, writes + 1);
 }
 
+TEST_F(TranscriptionStoreTest, ANewEntryLeavesTheLoadedOnesInTheFile)
+{
+    writeFile(threeEntries);
+    TranscriptionStore(files, clock).add(u"new"_s, std::nullopt);
+    EXPECT_EQ(texts(TranscriptionStore(files, clock).items()), QStringList({u"new"_s, u"one"_s, u"two"_s, u"three"_s}));
+}
+
 TEST_F(TranscriptionStoreTest, ClearingLeavesAnEmptyArray)
 {
     writeFile(threeEntries);
