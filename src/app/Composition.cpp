@@ -73,6 +73,10 @@ Composition::Composition(std::unique_ptr<Parts> parts) : m_parts(std::move(parts
     p.model.emplace(*p.platform, p.client, p.consent, [&p](HUDModel &hud) {
         return p.preparedPanel ? std::move(p.preparedPanel) : makeHUDPanel(p.engine, p.platform->statusPanels, hud);
     });
+    QObject::connect(&*p.model, &AppModel::historyToggled, &*p.model, [&p] {
+        // The shortcut is the history's from the start, though its window is still to be built.
+        p.model->hud().show(HUDPhase::Message{u"The history window is not part of this version yet"_s, true});
+    });
 }
 
 Composition::~Composition()
