@@ -17,6 +17,7 @@
 #include "service/ApiClient.h"
 #include "ui/HUDWindow.h"
 
+#include <QCoreApplication>
 #include <QQmlEngine>
 
 #include <utility>
@@ -67,6 +68,7 @@ Composition::Composition(std::unique_ptr<Parts> parts) : m_parts(std::move(parts
 {
     Parts &p = *m_parts;
     X11Backend &x11 = *p.desktop;
+    x11.setClosedHandler([] { QCoreApplication::quit(); });
     p.platform.emplace(Platform{x11.accessibility(), p.clock, p.files, x11.hotKeys(), x11.keyEvents(),
                                 x11.keyMonitors(), p.microphone, p.packagedInfo, x11.pasteboard(), p.preferences,
                                 x11.screens(), p.secrets, x11.statusPanels(), p.workspace});

@@ -15,6 +15,8 @@ Item {
     readonly property bool isTranscribing: model.kind === HUDModel.Transcribing
     readonly property bool isGroup: model.kind === HUDModel.Group
     readonly property bool isOutOfTokens: model.kind === HUDModel.OutOfTokens
+    // Helvetica's metrics: the panel's width was drawn for them, and wider faces lose the ends of messages.
+    readonly property string family: "Liberation Sans"
     readonly property bool isProblem: isOutOfTokens || model.isError
 
     function phaseText() {
@@ -93,7 +95,7 @@ Item {
                     maximumLineCount: 2
                     elide: Text.ElideRight
                     color: "white"
-                    font { pixelSize: 12; weight: Font.Medium }
+                    font { family: view.family; pixelSize: 12; weight: Font.Medium }
                 }
 
                 Text {
@@ -103,7 +105,7 @@ Item {
                     textFormat: Text.PlainText
                     elide: Text.ElideRight
                     color: "white"
-                    font { pixelSize: 12; weight: Font.Bold }
+                    font { family: view.family; pixelSize: 12; weight: Font.Bold }
                 }
             }
 
@@ -127,7 +129,7 @@ Item {
                     anchors.centerIn: parent
                     text: "Buy…"
                     color: "white"
-                    font { pixelSize: 12; weight: Font.Medium }
+                    font { family: view.family; pixelSize: 12; weight: Font.Medium }
                 }
 
                 TapHandler {
