@@ -12,7 +12,8 @@
 namespace net = boost::asio;
 
 /// Runs `work` on a thread of `pool`; the caller resumes on its own executor with the result, or with what `work`
-/// threw. What `work` refers to must outlive it. Its result must be default constructible.
+/// threw. What `work` refers to must outlive it, and the caller's execution context must outlive `pool`, whose thread
+/// lets go of it last. The result must be default constructible.
 template <class Work> net::awaitable<std::invoke_result_t<Work &>> runOn(net::thread_pool &pool, Work work)
 {
     auto task = [work = std::move(work)]() mutable -> net::awaitable<std::invoke_result_t<Work &>> {
