@@ -4,6 +4,7 @@
 #include "support/Await.h"
 
 #include <QDateTime>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -179,15 +180,26 @@ Desktop::Instant Desktop::awaitEditorDrawing()
     return instant(as<xcb_damage_notify_event_t>(*event).timestamp);
 }
 
-QString Desktop::editorText()
+QString Desktop::awaitEditorText(const QString &expected)
+{
+    // The editor may take the save keystroke before it has got the pasted text, so one save is not enough.
+    QString text;
+    const QDeadlineTimer deadline(std::chrono::seconds(20));
+    do {
+        text = savedText();
+    } while (text != expected && !deadline.hasExpired());
+    return text;
+}
+
+QString Desktop::savedText()
 {
     const QString path = m_session.path(u"note.txt"_s);
     const QDateTime before = QFileInfo(path).lastModified();
     m_user.press(KEY_LEFTCTRL);
     m_user.tap(KEY_S);
     m_user.release(KEY_LEFTCTRL);
-    require(await([&] { return QFileInfo(path).lastModified() > before && QFileInfo(path).size() > 0; }),
-            "the editor did not save");
+    // An editor with nothing new to save leaves the file alone: then this is only the pause before the next try.
+    await([&] { return QFileInfo(path).lastModified() > before; }, std::chrono::milliseconds(500));
     QFile file(path);
     require(file.open(QIODevice::ReadOnly), "the editor's file can't be read");
     return QString::fromUtf8(file.readAll());

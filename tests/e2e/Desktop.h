@@ -50,8 +50,8 @@ public:
     Dictation dictate(const Speech &speech, const std::function<void()> &whileListening = {},
                       const std::function<void()> &whileTranscribing = {});
 
-    /// What stands in the editor: saves it there and reads the file.
-    QString editorText();
+    /// What stands in the editor, as it saves it: waits until that is `expected`, and returns what it was last.
+    QString awaitEditorText(const QString &expected);
 
     void setClipboard(const QByteArray &text);
     QByteArray clipboard() const;
@@ -71,6 +71,7 @@ private:
     void writePreferences() const;
     void startQuillo();
     void startEditor();
+    QString savedText();
     Instant awaitRawKey(int evdevCode);
     Instant awaitEditorDrawing();
 

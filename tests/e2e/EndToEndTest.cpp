@@ -18,7 +18,7 @@ TEST(EndToEndTest, SpokenWordsStandInTheEditorAndTheClipboardIsBack)
     desktop.setClipboard("earlier");
     const Desktop::Dictation dictation = desktop.dictate(Speech::goForward());
     EXPECT_EQ(dictation.text, u"go forward ten meters"_s);
-    EXPECT_EQ(desktop.editorText(), dictation.text);
+    EXPECT_EQ(desktop.awaitEditorText(dictation.text), dictation.text);
     EXPECT_TRUE(desktop.awaitClipboard("earlier"));
 
     QFile history(desktop.session().dataFolder() + u"/Quillo/transcriptions.json"_s);

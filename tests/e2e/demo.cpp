@@ -69,7 +69,7 @@ bool demonstrate(QTextStream &out, const QString &folder)
     const bool secondRestored = desktop.awaitClipboard(earlier);
 
     const QString expected = first.text + second.text;
-    const QString text = desktop.editorText();
+    const QString text = desktop.awaitEditorText(expected);
     out << u"The server returned:  "_s << first.text << u" | "_s << second.text << u"\nThe editor received:  "_s << text
         << u"\nEarlier clipboard:    "_s << (firstRestored && secondRestored ? u"back"_s : u"NOT BACK"_s) << u"\n"_s;
     printTimes(out, second);
