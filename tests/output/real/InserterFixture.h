@@ -46,24 +46,31 @@ protected:
         start(QStringLiteral("mousepad"), {QStringLiteral("--disable-server"), path});
     }
 
-    /// Saves and returns what the editor holds.
+    /// Saves and returns what the editor holds. It may take the keystroke before it has got the text, so it is asked
+    /// again until there is some.
     QString editorText()
     {
-        user.press(KEY_LEFTCTRL);
-        user.tap(KEY_S);
-        user.release(KEY_LEFTCTRL);
-        return awaitText();
+        QString text;
+        for (int tries = 0; text.isEmpty() && tries < 40; ++tries) {
+            user.press(KEY_LEFTCTRL);
+            user.tap(KEY_S);
+            user.release(KEY_LEFTCTRL);
+            text = awaitText(std::chrono::milliseconds(500));
+        }
+        return text;
     }
 
     /// What a program writes to the file.
-    QString awaitText() const
+    QString awaitText(std::chrono::milliseconds limit = std::chrono::seconds(20)) const
     {
         QByteArray text;
-        await([&] {
-            QFile file(path);
-            text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-            return !text.isEmpty();
-        });
+        await(
+            [&] {
+                QFile file(path);
+                text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+                return !text.isEmpty();
+            },
+            limit);
         return QString::fromUtf8(text);
     }
 
