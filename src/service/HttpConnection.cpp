@@ -47,7 +47,7 @@ struct Upload {
     static size_t read(char *buffer, size_t size, size_t count, void *self)
     {
         auto &rest = static_cast<Upload *>(self)->rest;
-        const qsizetype length = std::min<qsizetype>(qsizetype(size * count), rest.size());
+        const qsizetype length = std::min<qsizetype>(qsizetype(size) * qsizetype(count), rest.size());
         std::memcpy(buffer, rest.data(), size_t(length));
         rest = rest.sliced(length);
         return size_t(length);
@@ -58,7 +58,7 @@ struct Upload {
 
 size_t receive(const char *bytes, size_t size, size_t count, void *body)
 {
-    static_cast<QByteArray *>(body)->append(bytes, qsizetype(size * count));
+    static_cast<QByteArray *>(body)->append(bytes, qsizetype(size) * qsizetype(count));
     return size * count;
 }
 

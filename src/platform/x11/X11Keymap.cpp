@@ -184,7 +184,6 @@ std::vector<uint8_t> X11Keymap::modifierKeys()
         }
     }
     std::ranges::sort(keys);
-    const auto repeated = std::ranges::unique(keys);
-    keys.erase(repeated.begin(), repeated.end());
+    keys.erase(std::unique(keys.begin(), keys.end()), keys.end()); // clang-tidy 14 can't parse the ranges' one
     return keys;
 }
