@@ -95,6 +95,7 @@ void measure()
     AudioRecorder recorder(microphone, files);
     pause(500ms);
     std::vector<double> liveOnes;
+    liveOnes.reserve(liveRounds);
     for (int i = 0; i < liveRounds; ++i) {
         liveOnes.push_back(finishLive(recorder));
     }

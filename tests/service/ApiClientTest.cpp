@@ -66,7 +66,7 @@ protected:
 
     QString recording(const QByteArray &bytes)
     {
-        const QString path = fake.files.temporaryFolder() + u"/dictation ü.m4a"_s;
+        QString path = fake.files.temporaryFolder() + u"/dictation ü.m4a"_s;
         QFile file(path);
         file.open(QIODevice::WriteOnly);
         file.write(bytes);

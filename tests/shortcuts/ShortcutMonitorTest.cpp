@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr KeyEvent flags(uint16_t keyCode, uint32_t modifierFlags)
+KeyEvent flags(uint16_t keyCode, uint32_t modifierFlags)
 {
     return {KeyEvent::Type::FlagsChanged, keyCode, modifierFlags, std::nullopt};
 }

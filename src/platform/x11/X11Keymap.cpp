@@ -172,10 +172,8 @@ uint16_t X11Keymap::lockModifiers()
 
 std::vector<uint8_t> X11Keymap::modifierKeys()
 {
-    std::vector<uint8_t> keys;
-    for (const int evdev : knownModifierKeys) {
-        keys.push_back(uint8_t(evdev + 8));
-    }
+    std::vector<uint8_t> keys(std::size(knownModifierKeys));
+    std::ranges::transform(knownModifierKeys, keys.begin(), [](int evdev) { return uint8_t(evdev + 8); });
     const auto locks = lockModifiers();
     const auto table = modifierTable(m_connection.xcb());
     for (size_t modifier = 0; modifier < table.size(); ++modifier) {
