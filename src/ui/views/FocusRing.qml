@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import Quillo
+
+// Drawn around what has the keyboard focus; a child of its background.
+Rectangle {
+    property color ringColor: SystemColors.accent
+    // The corner radius of what it surrounds.
+    property real corner: 6
+
+    anchors.fill: parent
+    anchors.margins: -3
+    radius: corner + 3
+    color: "transparent"
+    border.width: 2
+    border.color: ringColor
+    z: 1
+}

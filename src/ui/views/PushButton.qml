@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import QtQuick.Templates as T
+import Quillo
+
+// A bordered button in the desktop's colours. Space presses it while it has the focus, and Return too.
+T.Button {
+    id: button
+
+    property bool isDefault: false
+    property bool isDestructive: false
+    // Drawn as switched on, without being a default button.
+    property bool isTinted: false
+
+    readonly property bool isFilled: isDefault || isTinted
+
+    implicitWidth: Math.max(implicitContentWidth + leftPadding + rightPadding, 44)
+    implicitHeight: 24
+    leftPadding: 12
+    rightPadding: 12
+    focusPolicy: Qt.StrongFocus
+    opacity: enabled ? 1 : 0.45
+    font.pixelSize: 13
+
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+
+    contentItem: Text {
+        text: button.text
+        textFormat: Text.PlainText
+        font: button.font
+        color: button.isFilled ? SystemColors.accentText
+             : button.isDestructive ? SystemColors.red : SystemColors.text
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        elide: Text.ElideRight
+    }
+
+    background: Rectangle {
+        radius: 6
+        color: {
+            const ground = button.isFilled ? SystemColors.accent : SystemColors.control;
+            return button.down ? Qt.darker(ground, 1.15) : ground;
+        }
+        border.width: 1
+        border.color: button.isFilled ? Qt.darker(SystemColors.accent, 1.1) : SystemColors.controlBorder
+
+        FocusRing { visible: button.visualFocus }
+    }
+}
