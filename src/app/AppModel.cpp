@@ -10,7 +10,6 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -18,8 +17,6 @@ const QString shortcutKey = u"shortcut.v2"_s;
 const QString triggerModeKey = u"triggerMode"_s;
 const QString groupShortcutKey = u"groupShortcut"_s;
 const QString historyShortcutKey = u"historyShortcut"_s;
-
-constexpr auto permissionWatchPeriod = 2000ms;
 
 constexpr uint32_t controlOption = HotKeyModifier::control | HotKeyModifier::option;
 
@@ -44,16 +41,15 @@ std::optional<QString> conflict(bool isArmed, const Shortcut &shortcut)
 
 } // namespace
 
-AppModel::AppModel(const Platform &platform, ApiClient &client, AIConsent &consent,
-                   RecordingHUD::PanelFactory makePanel)
+AppModel::AppModel(const Platform &platform, ApiClient &client, AIConsent &consent, Views views)
     : m_platform(platform),
       m_clock(platform.clock),
       m_client(client),
       m_consent(consent),
       m_freeGrantMissed(platform.preferences.boolean(u"freeGrantMissed"_s)),
       m_isTrusted(platform.accessibility.isTrusted()),
-      m_shortcut(storedShortcut(platform.preferences, shortcutKey,
-                                Shortcut::combo(KeyCode::space, controlOption, u"Space"_s))),
+      m_hasConsent(consent.isCurrent()),
+      m_shortcut(storedShortcut(platform.preferences, shortcutKey, defaultShortcut())),
       m_triggerMode(storedTriggerMode(platform.preferences)),
       m_groupShortcut(
           storedShortcut(platform.preferences, groupShortcutKey, Shortcut::combo(KeyCode::g, controlOption, u"G"_s))),
@@ -61,9 +57,12 @@ AppModel::AppModel(const Platform &platform, ApiClient &client, AIConsent &conse
           storedShortcut(platform.preferences, historyShortcutKey, Shortcut::combo(KeyCode::h, controlOption, u"H"_s))),
       m_store(platform.files, platform.clock),
       m_groups(platform.files, platform.preferences),
+      m_historyWindow(platform.application, platform.preferences, platform.screens, std::move(views.history)),
+      m_consentWindow(consent, platform.packagedInfo, platform.application, platform.screens, std::move(views.consent)),
+      m_settingsWindow(platform.application, platform.screens, std::move(views.settings)),
       m_recorder(platform.microphone, platform.files),
       m_inserter(platform.pasteboard, platform.keyEvents, platform.accessibility, platform.clock),
-      m_hud(platform.clock, platform.screens, std::move(makePanel)),
+      m_hud(platform.clock, platform.screens, std::move(views.hud)),
       m_monitor(platform.hotKeys, platform.keyMonitors, [this](ShortcutEvent event) { handle(event); })
 {
     m_microphone = m_recorder.permission();
@@ -86,7 +85,14 @@ void AppModel::start()
     watchPermissions();
     if (m_consent.isCurrent()) {
         refreshBalance();
+    } else {
+        showConsent(false);
     }
+}
+
+Shortcut AppModel::defaultShortcut()
+{
+    return Shortcut::combo(KeyCode::space, controlOption, u"Space"_s);
 }
 
 void AppModel::setShortcut(const Shortcut &shortcut)
@@ -139,10 +145,17 @@ void AppModel::armWindowShortcuts()
     m_groupHotKey.reset();
     m_historyHotKey.reset();
     m_groupHotKey = armWindowShortcut(m_groupShortcut, [this] { cycleGroup(true); });
-    m_historyHotKey = armWindowShortcut(m_historyShortcut, [this] { Q_EMIT historyToggled(); });
+    m_historyHotKey = armWindowShortcut(m_historyShortcut, [this] { m_historyWindow.toggle(); });
     m_groupShortcutError = conflict(m_groupHotKey != nullptr, m_groupShortcut);
     m_historyShortcutError = conflict(m_historyHotKey != nullptr, m_historyShortcut);
     Q_EMIT shortcutErrorsChanged();
+}
+
+void AppModel::disarmShortcuts()
+{
+    m_monitor.deactivate();
+    m_groupHotKey.reset();
+    m_historyHotKey.reset();
 }
 
 std::unique_ptr<CarbonHotKey> AppModel::armWindowShortcut(const Shortcut &shortcut, std::function<void()> action)
@@ -165,25 +178,5 @@ void AppModel::cycleGroup(bool forward)
     if (m_state.value == State::Case::Idle) {
         const auto group = m_groups.group(m_groups.activeId());
         m_hud.show(HUDPhase::Group{group ? group->name : u"All entries"_s});
-    }
-}
-
-void AppModel::watchPermissions()
-{
-    m_trustTimer = m_clock.every(permissionWatchPeriod, [this] { checkPermissions(); });
-}
-
-void AppModel::checkPermissions()
-{
-    const AudioRecorder::Permission microphone = m_recorder.permission();
-    if (microphone != m_microphone) {
-        m_microphone = microphone;
-        Q_EMIT permissionsChanged();
-    }
-    const bool isTrusted = m_platform.accessibility.isTrusted();
-    if (isTrusted != m_isTrusted) {
-        m_isTrusted = isTrusted;
-        armShortcut();
-        Q_EMIT permissionsChanged();
     }
 }

@@ -4,13 +4,17 @@
 #include "audio/AudioRecorder.h"
 #include "output/TextInserter.h"
 #include "platform/Clock.h"
+#include "platform/Workspace.h"
 #include "service/ApiClient.h"
 #include "shortcuts/CarbonHotKey.h"
 #include "shortcuts/Shortcut.h"
 #include "shortcuts/ShortcutMonitor.h"
 #include "store/GroupStore.h"
 #include "store/TranscriptionStore.h"
+#include "ui/ConsentWindow.h"
+#include "ui/HistoryWindow.h"
 #include "ui/RecordingHUD.h"
+#include "ui/SettingsWindow.h"
 
 #include <QObject>
 #include <QSet>
@@ -22,11 +26,10 @@ class AIConsent;
 struct Platform;
 
 /// The one controller: the dictation state machine (AppModelDictation.cpp), the settings and the arming of the
-/// shortcuts (AppModel.cpp), and the token balance (AppModelBalance.cpp). Main thread only. Published members announce
-/// every change of their value.
+/// shortcuts (AppModel.cpp), permissions and consent (AppModelPermissions.cpp), and the token balance
+/// (AppModelBalance.cpp). Main thread only. Published members announce every change of their value.
 class AppModel : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QString statusText READ statusText NOTIFY statusTextChanged)
 
 public:
     struct State {
@@ -44,7 +47,15 @@ public:
     static constexpr double minimumSeconds = 0.3;                  ///< shorter recordings are slips of the finger
     static constexpr std::chrono::seconds maximumDuration{900};
 
-    AppModel(const Platform &platform, ApiClient &client, AIConsent &consent, RecordingHUD::PanelFactory makePanel);
+    /// What makes the windows, each at its first use.
+    struct Views {
+        RecordingHUD::PanelFactory hud;
+        HistoryWindow::WindowFactory history;
+        ConsentWindow::WindowFactory consent;
+        SettingsWindow::WindowFactory settings;
+    };
+
+    AppModel(const Platform &platform, ApiClient &client, AIConsent &consent, Views views);
     AppModel(const AppModel &) = delete;
     AppModel &operator=(const AppModel &) = delete;
     /// A recording in progress is abandoned; no recording stays on disk.
@@ -60,6 +71,7 @@ public:
     void handle(ShortcutEvent event);
 
     // Settings. A change takes effect and is stored at once.
+    static Shortcut defaultShortcut();
     const Shortcut &shortcut() const { return m_shortcut; }
     void setShortcut(const Shortcut &shortcut);
     TriggerMode triggerMode() const { return m_triggerMode; }
@@ -76,6 +88,8 @@ public:
 
     void armShortcut();
     void armWindowShortcuts();
+    /// Switches all shortcuts off until they are armed again, so that pressing one can be recorded.
+    void disarmShortcuts();
 
     /// Makes the next or previous group active, and says so on the HUD when no dictation runs.
     void cycleGroup(bool forward);
@@ -83,6 +97,19 @@ public:
     // Permissions.
     bool isTrusted() const { return m_isTrusted; }
     AudioRecorder::Permission microphone() const { return m_microphone; }
+    void requestMicrophone();
+    /// What a person does about a missing permission: answer the desktop's question or change its settings.
+    void fixMicrophone();
+    void fixAccessibility();
+
+    // Consent to sending recordings.
+    bool hasConsent() const { return m_hasConsent; }
+    /// Opens the consent window: to ask, or to look at an answer given before.
+    void showConsent(bool isReview);
+
+    /// Whether the desktop starts the program at login, as the desktop knows it now.
+    bool launchesAtLogin() const;
+    void setLaunchesAtLogin(bool launches);
 
     // Balance.
     /// Last known number of tokens; nothing before the first answer of the backend.
@@ -95,6 +122,8 @@ public:
 
     TranscriptionStore &store() { return m_store; }
     GroupStore &groups() { return m_groups; }
+    HistoryWindow &historyWindow() { return m_historyWindow; }
+    SettingsWindow &settingsWindow() { return m_settingsWindow; }
     RecordingHUD &hud() { return m_hud; }
 
 Q_SIGNALS:
@@ -104,14 +133,19 @@ Q_SIGNALS:
     void shortcutErrorsChanged();
     void permissionsChanged();
     void balanceChanged();
-    /// The history shortcut was pressed.
-    void historyToggled();
+    void hasConsentChanged();
+    void launchesAtLoginChanged();
 
 private:
     // AppModel.cpp
+    std::unique_ptr<CarbonHotKey> armWindowShortcut(const Shortcut &shortcut, std::function<void()> action);
+
+    // AppModelPermissions.cpp
     void watchPermissions();
     void checkPermissions();
-    std::unique_ptr<CarbonHotKey> armWindowShortcut(const Shortcut &shortcut, std::function<void()> action);
+    QCoro::Task<void> awaitMicrophone();
+    void consentAnswered(bool isGranted, bool isReview);
+    void openPrivacySettings(Workspace::PrivacyPane pane);
 
     // AppModelDictation.cpp
     void released();
@@ -146,6 +180,7 @@ private:
     bool m_freeGrantMissed = false;
     bool m_isTrusted = false;
     AudioRecorder::Permission m_microphone;
+    bool m_hasConsent = false;
     std::optional<QString> m_shortcutError;
     Shortcut m_shortcut;
     TriggerMode m_triggerMode;
@@ -156,6 +191,9 @@ private:
 
     TranscriptionStore m_store;
     GroupStore m_groups;
+    HistoryWindow m_historyWindow;
+    ConsentWindow m_consentWindow;
+    SettingsWindow m_settingsWindow;
     AudioRecorder m_recorder;
     TextInserter m_inserter;
     RecordingHUD m_hud;

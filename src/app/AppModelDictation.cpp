@@ -84,7 +84,7 @@ void AppModel::released()
 void AppModel::begin()
 {
     if (!m_consent.isCurrent()) {
-        m_hud.show(problem(AIConsentError().localizedDescription()));
+        showConsent(false);
         return;
     }
     switch (m_recorder.permission()) {
@@ -93,7 +93,7 @@ void AppModel::begin()
         return;
     case AudioRecorder::Permission::Denied:
         m_hud.show(problem(u"Microphone access is off for Quillo"_s));
-        m_platform.workspace.openPrivacySettings(Workspace::PrivacyPane::Microphone);
+        m_platform.workspace.openPrivacySettings(Workspace::PrivacyPane::Microphone); // the message says the rest
         return;
     case AudioRecorder::Permission::Granted:
         break;

@@ -2,23 +2,30 @@
 #include "app/Composition.h"
 
 #include "app/AppModel.h"
+#include "app/MenuBarExtra.h"
+#include "app/ViewModel.h"
 #include "platform/Platform.h"
 #include "platform/StatusPanel.h"
 #include "platform/audio/PulseMicrophone.h"
+#include "platform/freedesktop/AutostartEntry.h"
 #include "platform/freedesktop/DesktopWorkspace.h"
 #include "platform/freedesktop/IniPreferences.h"
 #include "platform/freedesktop/LibsecretStore.h"
 #include "platform/freedesktop/ResourceInfo.h"
 #include "platform/freedesktop/SystemClock.h"
 #include "platform/freedesktop/XdgFiles.h"
+#include "platform/tray/TrayItem.h"
 #include "platform/x11/TerminalClasses.h"
 #include "platform/x11/X11Backend.h"
 #include "service/AIConsent.h"
 #include "service/ApiClient.h"
+#include "ui/ConsentView.h"
 #include "ui/HUDWindow.h"
 
 #include <QCoreApplication>
+#include <QDBusConnection>
 #include <QQmlEngine>
+#include <QQuickView>
 
 #include <utility>
 
@@ -43,6 +50,8 @@ struct Composition::Parts {
     LibsecretStore secrets;
     ResourceInfo packagedInfo{ResourceInfo::defaultFolder()};
     DesktopWorkspace workspace;
+    AutostartEntry loginItem{QCoreApplication::applicationFilePath()};
+    TrayItem statusItem{clock, QDBusConnection::sessionBus()};
     PulseMicrophone microphone{clock};
     std::unique_ptr<X11Backend> desktop;
     std::optional<Platform> platform;
@@ -52,6 +61,8 @@ struct Composition::Parts {
     QQmlEngine engine;
     std::unique_ptr<StatusPanel> preparedPanel;
     std::optional<AppModel> model;
+    std::optional<ViewModel> viewModel;
+    std::optional<MenuBarExtra> menuBarExtra;
 };
 
 std::unique_ptr<Composition> Composition::create(QString *whyNot)
@@ -69,16 +80,23 @@ Composition::Composition(std::unique_ptr<Parts> parts) : m_parts(std::move(parts
     Parts &p = *m_parts;
     X11Backend &x11 = *p.desktop;
     x11.setClosedHandler([] { QCoreApplication::quit(); });
-    p.platform.emplace(Platform{x11.accessibility(), p.clock, p.files, x11.hotKeys(), x11.keyEvents(),
-                                x11.keyMonitors(), p.microphone, p.packagedInfo, x11.pasteboard(), p.preferences,
-                                x11.screens(), p.secrets, x11.statusPanels(), p.workspace});
-    p.model.emplace(*p.platform, p.client, p.consent, [&p](HUDModel &hud) {
-        return p.preparedPanel ? std::move(p.preparedPanel) : makeHUDPanel(p.engine, p.platform->statusPanels, hud);
-    });
-    QObject::connect(&*p.model, &AppModel::historyToggled, &*p.model, [&p] {
-        // The shortcut is the history's from the start, though its window is still to be built.
-        p.model->hud().show(HUDPhase::Message{u"The history window is not part of this version yet"_s, true});
-    });
+    p.platform.emplace(Platform{x11.accessibility(), x11.application(), p.clock, p.files, x11.hotKeys(),
+                                x11.keyEvents(), x11.keyMonitors(), p.loginItem, p.microphone, p.packagedInfo,
+                                x11.pasteboard(), p.preferences, x11.screens(), p.secrets, p.statusItem,
+                                x11.statusPanels(), p.workspace});
+    p.model.emplace(*p.platform, p.client, p.consent,
+                    AppModel::Views{
+                        .hud =
+                            [&p](HUDModel &hud) {
+                                return p.preparedPanel ? std::move(p.preparedPanel)
+                                                       : makeHUDPanel(p.engine, p.platform->statusPanels, hud);
+                            },
+                        .history = [](HistoryWindow &) { return std::make_unique<QWindow>(); },
+                        .consent = [&p](DisclosureView &disclosure) { return makeConsentWindow(p.engine, disclosure); },
+                        .settings = [] { return std::make_unique<QWindow>(); },
+                    });
+    p.viewModel.emplace(*p.model);
+    p.menuBarExtra.emplace(*p.model, *p.platform);
 }
 
 Composition::~Composition()

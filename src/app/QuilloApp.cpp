@@ -6,7 +6,7 @@
 #include "app/DisplayChoice.h"
 #include "app/TerminationSignals.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QQuickWindow>
 #include <QTimer>
 
@@ -28,7 +28,7 @@ int QuilloApp::run(int argc, char *argv[])
 {
     QCoreApplication::setApplicationName(u"Quillo"_s);
     QCoreApplication::setApplicationVersion(u"" QUILLO_VERSION ""_s);
-    QGuiApplication::setDesktopFileName(u"app.quillo.Quillo"_s);
+    QApplication::setDesktopFileName(u"app.quillo.Quillo"_s);
 
     if (const auto refusal = DisplayChoice::prepare()) {
         return fail(*refusal);
@@ -36,8 +36,8 @@ int QuilloApp::run(int argc, char *argv[])
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QQuickWindow::setDefaultAlphaBuffer(true);
 
-    QGuiApplication application(argc, argv);
-    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QApplication application(argc, argv); // the tray's own menu is a widget
+    QApplication::setQuitOnLastWindowClosed(false);
     const TerminationSignals signals([] { QCoreApplication::quit(); });
 
     QString whyNot;
@@ -47,5 +47,5 @@ int QuilloApp::run(int argc, char *argv[])
     }
     AppDelegate delegate(*composition);
     QTimer::singleShot(0, &application, [&delegate] { delegate.applicationDidFinishLaunching(); });
-    return QGuiApplication::exec();
+    return QApplication::exec();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QtGlobal> // before <coroutine>, which moc can't read by itself
+
 #include <chrono>
 #include <coroutine>
 #include <functional>

@@ -5,6 +5,8 @@
 #include <QPointF>
 #include <QRectF>
 
+#include <optional>
+
 /// One screen. Points in desktop coordinates, origin at the top left, y growing downwards.
 struct Screen {
     QRectF frame;
@@ -21,4 +23,7 @@ public:
     virtual QList<Screen> screens() const = 0;
 
     virtual QPointF mouseLocation() const = 0;
+
+    /// The screen that holds the pointer; the main screen where none does, nothing where there is no screen.
+    std::optional<Screen> underPointer() const;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/MenuItem.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -63,15 +65,7 @@ public:
     /// Why a key press can't become a shortcut.
     enum class Rejection { EscapeReserved, NeedsModifier };
 
-    /// A menu's key equivalent: one character, lower case; for Return "\r", Tab "\t", Delete "\b", and for the arrow
-    /// keys the arrow characters.
-    struct MenuShortcut {
-        QString key;
-        /// Hot-key masks.
-        uint32_t modifiers = 0;
-
-        bool operator==(const MenuShortcut &) const = default;
-    };
+    using MenuShortcut = ::MenuShortcut;
 
     static Shortcut combo(uint32_t keyCode, uint32_t modifiers, const QString &key);
     static Shortcut modifier(ModifierKey key);

@@ -3,15 +3,12 @@
 
 #include "platform/StatusPanel.h"
 #include "ui/HUDModel.h"
+#include "ui/ViewWindow.h"
 
-#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
 
 using namespace Qt::StringLiterals;
-
-// Generated with the QML module. Naming it keeps the linker from dropping the registration out of the static library.
-extern void qml_register_types_Quillo(); // NOLINT(readability-identifier-naming)
 
 namespace {
 
@@ -40,14 +37,10 @@ private:
 
 std::unique_ptr<StatusPanel> makeHUDPanel(QQmlEngine &engine, StatusPanels &panels, HUDModel &model)
 {
-    [[maybe_unused]] void (*volatile const registration)() = &qml_register_types_Quillo;
-    engine.addImportPath(u"qrc:/qt/qml"_s);
-    auto window = std::make_unique<QQuickView>(&engine, nullptr);
+    auto window = makeViewWindow(engine, u"HUDView"_s, {{u"model"_s, QVariant::fromValue(&model)}});
     window->setColor(Qt::transparent);
     window->setResizeMode(QQuickView::SizeRootObjectToView);
     window->resize(panelSize);
-    window->setInitialProperties({{u"model"_s, QVariant::fromValue(&model)}});
-    window->setSource(QUrl(u"qrc:/qt/qml/Quillo/views/HUDView.qml"_s));
     QQuickItem *view = window->rootObject();
     auto panel = panels.adopt(std::move(window));
     new OutlineFollower(*view, *panel); // owned by the view, which the panel owns

@@ -4,7 +4,6 @@
 #include "platform/Screens.h"
 #include "platform/StatusPanel.h"
 
-#include <algorithm>
 #include <optional>
 
 using namespace std::chrono_literals;
@@ -62,14 +61,11 @@ void RecordingHUD::hide()
 
 void RecordingHUD::position()
 {
-    const QList<Screen> screens = m_screens.screens();
-    if (screens.isEmpty()) {
+    const auto screen = m_screens.underPointer();
+    if (!screen) {
         return;
     }
-    const QPointF pointer = m_screens.mouseLocation();
-    const auto holding =
-        std::ranges::find_if(screens, [&](const Screen &screen) { return screen.frame.contains(pointer); });
-    const QRectF visible = (holding == screens.end() ? screens.first() : *holding).visibleFrame;
+    const QRectF visible = screen->visibleFrame;
     const QSizeF size = m_panel->size();
     m_panel->setFrameOrigin({visible.center().x() - size.width() / 2, visible.bottom() - bottomMargin - size.height()});
 }

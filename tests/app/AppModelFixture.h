@@ -10,6 +10,9 @@
 #include "platform/KeyCodes.h"
 #include "service/AIConsent.h"
 
+#include <QPointer>
+#include <QWindow>
+
 #include <gtest/gtest.h>
 
 #include <optional>
@@ -38,8 +41,22 @@ protected:
             return transcript;
         };
         client.emplace(fake.preferences, fake.packagedInfo, fake.secrets, consent);
-        model.emplace(fake.platform, *client, consent,
-                      [this](HUDModel &) { return std::make_unique<FakeStatusPanel>(panel); });
+        model.emplace(fake.platform, *client, consent, views());
+    }
+
+    /// Panels and windows with nothing in them.
+    AppModel::Views views()
+    {
+        return {
+            .hud = [this](HUDModel &) { return std::make_unique<FakeStatusPanel>(panel); },
+            .history = [](HistoryWindow &) { return std::make_unique<QWindow>(); },
+            .consent =
+                [this](DisclosureView &shown) {
+                    disclosure = &shown;
+                    return std::make_unique<QWindow>();
+                },
+            .settings = [] { return std::make_unique<QWindow>(); },
+        };
     }
 
     /// The program as it is once it runs: shortcuts armed, the first balance known.
@@ -73,6 +90,7 @@ protected:
     HttpServer server;
     AIConsent consent{fake.preferences, fake.clock};
     PanelRecord panel;
+    QPointer<DisclosureView> disclosure; ///< of the consent window last opened
     int64_t balance = 10;
     HttpServer::Response transcript{200, R"({"text":" Hello there.\n","balance":9})"};
     HttpServer::Response checkout{200, R"({"url":"https://pay.example/1"})"};

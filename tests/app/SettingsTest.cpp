@@ -34,8 +34,7 @@ TEST_F(SettingsTest, ChangesAreStoredAndReadBack)
     EXPECT_TRUE(fake.hotKeys.isRegistered(96, 0));
     EXPECT_FALSE(fake.hotKeys.isRegistered(KeyCode::g, controlOption));
 
-    const AppModel next(fake.platform, *client, consent,
-                        [this](HUDModel &) { return std::make_unique<FakeStatusPanel>(panel); });
+    const AppModel next(fake.platform, *client, consent, views());
     EXPECT_EQ(next.shortcut(), Shortcut::modifier(ModifierKey::RightOption));
     EXPECT_EQ(next.groupShortcut(), Shortcut::combo(96, 0, u"F5"_s));
     EXPECT_EQ(next.historyShortcut(), Shortcut::combo(97, 0, u"F6"_s));
@@ -48,8 +47,7 @@ TEST_F(SettingsTest, PreferencesThatMeanNothingGiveTheDefaults)
     fake.preferences.setString(u"groupShortcut"_s, u"F5"_s);
     fake.preferences.setData(u"historyShortcut"_s, "\xff");
     fake.preferences.setString(u"triggerMode"_s, u"Hold"_s);
-    const AppModel next(fake.platform, *client, consent,
-                        [this](HUDModel &) { return std::make_unique<FakeStatusPanel>(panel); });
+    const AppModel next(fake.platform, *client, consent, views());
     EXPECT_EQ(next.shortcut().label(), u"⌃⌥ Space"_s);
     EXPECT_EQ(next.groupShortcut().label(), u"⌃⌥ G"_s);
     EXPECT_EQ(next.historyShortcut().label(), u"⌃⌥ H"_s);
@@ -88,8 +86,7 @@ TEST_F(SettingsTest, TheGroupShortcutCyclesAndNamesTheGroupOnPressOnly)
 TEST_F(SettingsTest, ASingleKeyAsksForTrustOnceWhereItIsMissing)
 {
     fake.accessibility.trusted = false;
-    model.emplace(fake.platform, *client, consent,
-                  [this](HUDModel &) { return std::make_unique<FakeStatusPanel>(panel); });
+    model.emplace(fake.platform, *client, consent, views());
     model->setShortcut(Shortcut::combo(96, 0, u"F5"_s));
     EXPECT_EQ(fake.accessibility.prompts, 0);
     model->setShortcut(Shortcut::modifier(ModifierKey::RightOption));
@@ -108,4 +105,50 @@ TEST_F(SettingsTest, PermissionsAreWatchedEveryTwoSeconds)
     EXPECT_FALSE(model->isTrusted());
     EXPECT_TRUE(model->shortcutError()); // armed again, and refused this time
     EXPECT_EQ(model->microphone(), AudioRecorder::Permission::Denied);
+}
+
+TEST_F(SettingsTest, OpenAtLoginIsWhatTheDesktopSays)
+{
+    start();
+    model->setLaunchesAtLogin(true);
+    EXPECT_TRUE(model->launchesAtLogin());
+    fake.loginItem.current = LoginItem::Status::NotRegistered; // switched off in the desktop's own settings
+    EXPECT_FALSE(model->launchesAtLogin());
+    fake.loginItem.refuses = true;
+    model->setLaunchesAtLogin(true);
+    EXPECT_EQ(phase(), error(u"Couldn't change Open at Login"_s));
+    EXPECT_FALSE(model->launchesAtLogin());
+}
+
+TEST_F(SettingsTest, DisarmedShortcutsDoNothingUntilArmedAgain)
+{
+    start();
+    model->disarmShortcuts();
+    EXPECT_EQ(fake.hotKeys.count(), 0U);
+    model->armShortcut();
+    model->armWindowShortcuts();
+    EXPECT_EQ(fake.hotKeys.count(), 3U);
+}
+
+TEST_F(SettingsTest, TheHistoryShortcutHidesOnlyWhatTheUserLooksAt)
+{
+    start();
+    const auto toggle = [this] {
+        ASSERT_TRUE(fake.hotKeys.press(KeyCode::h, controlOption));
+        fake.hotKeys.release(KeyCode::h, controlOption);
+    };
+    HistoryWindow &history = model->historyWindow();
+    toggle();
+    EXPECT_TRUE(history.isVisible());
+    fake.application.activated(false); // another program comes to the front
+    toggle();
+    EXPECT_TRUE(history.isVisible());
+    toggle();
+    EXPECT_FALSE(history.isVisible());
+    EXPECT_EQ(fake.application.hides, 1);
+
+    model->settingsWindow().show();
+    history.show(false);
+    history.hide();
+    EXPECT_EQ(fake.application.hides, 1); // the settings are still there
 }

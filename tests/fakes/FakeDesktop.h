@@ -2,8 +2,11 @@
 #pragma once
 
 #include "platform/Accessibility.h"
+#include "platform/Application.h"
+#include "platform/LoginItem.h"
 #include "platform/PackagedInfo.h"
 #include "platform/Screens.h"
+#include "platform/StatusItem.h"
 #include "platform/StatusPanel.h"
 #include "platform/Workspace.h"
 
@@ -19,6 +22,41 @@ public:
 
     bool trusted = true;
     int prompts = 0;
+};
+
+/// A desktop where a window that is shown gets the keyboard focus at once.
+class FakeApplication : public Application {
+public:
+    void bringToFront(QWindow &window) override
+    {
+        window.show();
+        front = &window;
+    }
+    void hide() override { ++hides; }
+    void setActivationHandler(ActivationHandler handler) override { activated = std::move(handler); }
+    void terminate() override { isTerminated = true; }
+
+    QWindow *front = nullptr;
+    int hides = 0;
+    bool isTerminated = false;
+    ActivationHandler activated;
+};
+
+class FakeLoginItem : public LoginItem {
+public:
+    Status status() const override { return current; }
+    bool registerApp() override { return set(Status::Enabled); }
+    bool unregisterApp() override { return set(Status::NotRegistered); }
+
+    Status current = Status::NotRegistered;
+    bool refuses = false;
+
+private:
+    bool set(Status status)
+    {
+        current = refuses ? current : status;
+        return !refuses;
+    }
 };
 
 class FakePackagedInfo : public PackagedInfo {
@@ -55,6 +93,22 @@ public:
 
     QList<QUrl> opened;
     std::optional<PrivacyPane> openedPane;
+};
+
+class FakeStatusItem : public StatusItem {
+public:
+    void setLabel(const QString &newSymbol, const QString &newTitle) override
+    {
+        symbol = newSymbol;
+        title = newTitle;
+    }
+    void setMenu(const QList<MenuItem> &items) override { menu = items; }
+    void setActivationHandler(std::function<void()> handler) override { activated = std::move(handler); }
+
+    QString symbol;
+    QString title;
+    QList<MenuItem> menu;
+    std::function<void()> activated;
 };
 
 /// What became of a status panel; it outlives the panel.

@@ -25,6 +25,8 @@ public:
 
     bool isRegistered(uint32_t keyCode, uint32_t modifiers) const { return m_handlers.contains({keyCode, modifiers}); }
 
+    size_t count() const { return m_handlers.size(); }
+
     /// False when nobody has registered the combination.
     bool press(uint32_t keyCode, uint32_t modifiers) { return send({keyCode, modifiers}, true); }
     bool release(uint32_t keyCode, uint32_t modifiers) { return send({keyCode, modifiers}, false); }

@@ -17,20 +17,24 @@
 /// A whole desktop of fakes.
 struct FakePlatform {
     FakeAccessibility accessibility;
+    FakeApplication application;
     FakeClock clock;
     FakeFiles files;
     FakeHotKeys hotKeys;
     FakeKeyEvents keyEvents;
     FakeKeyMonitors keyMonitors;
+    FakeLoginItem loginItem;
     FakeMicrophone microphone;
     FakePackagedInfo packagedInfo;
     FakePasteboard pasteboard;
     FakePreferences preferences;
     FakeScreens screens;
     FakeSecretStore secrets;
+    FakeStatusItem statusItem;
     FakeStatusPanels statusPanels;
     FakeWorkspace workspace;
 
-    Platform platform{accessibility, clock,      files,       hotKeys, keyEvents, keyMonitors,  microphone,
-                      packagedInfo,  pasteboard, preferences, screens, secrets,   statusPanels, workspace};
+    Platform platform{accessibility, application, clock,      files,        hotKeys,    keyEvents,
+                      keyMonitors,   loginItem,   microphone, packagedInfo, pasteboard, preferences,
+                      screens,       secrets,     statusItem, statusPanels, workspace};
 };

@@ -3,6 +3,7 @@
 
 #include "platform/x11/QtScreens.h"
 #include "platform/x11/X11Accessibility.h"
+#include "platform/x11/X11Application.h"
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11HotKeys.h"
 #include "platform/x11/X11KeyEvents.h"
@@ -23,7 +24,8 @@ struct X11Backend::Parts {
           keyMonitors(*connection, *keymap, [] { return QGuiApplication::focusWindow() != nullptr; }),
           keyEvents(*connection, *keymap, terminalClasses),
           statusPanels(*connection),
-          accessibility(*connection)
+          accessibility(*connection),
+          application(*connection)
     {
     }
 
@@ -35,6 +37,7 @@ struct X11Backend::Parts {
     X11KeyEvents keyEvents;
     X11StatusPanels statusPanels;
     X11Accessibility accessibility;
+    X11Application application;
     QtScreens screens;
 };
 
@@ -104,6 +107,11 @@ Screens &X11Backend::screens()
 Accessibility &X11Backend::accessibility()
 {
     return m_parts->accessibility;
+}
+
+Application &X11Backend::application()
+{
+    return m_parts->application;
 }
 
 void X11Backend::setClosedHandler(std::function<void()> handler)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Accessibility.h"
+#include "platform/Application.h"
 #include "platform/Clock.h"
 #include "platform/HotKeys.h"
 #include "platform/KeyEvents.h"
@@ -37,6 +38,7 @@ public:
     StatusPanels &statusPanels();
     Screens &screens();
     Accessibility &accessibility();
+    Application &application();
 
     /// Called once, from the event loop, when the X server is gone.
     void setClosedHandler(std::function<void()> handler);

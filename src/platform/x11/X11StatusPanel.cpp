@@ -1,24 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/X11StatusPanel.h"
 
-#include <QGuiApplication>
+#include "platform/x11/WindowSystem.h"
+
 #include <QPainterPath>
 #include <QRegion>
 #include <QWindow>
 
 #include <algorithm>
-
-namespace {
-
-/// Qt's own connection is flushed by its event dispatcher, and by some dispatchers not after a timer.
-void flushWindowSystem()
-{
-    if (const auto *const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()) {
-        xcb_flush(x11->connection());
-    }
-}
-
-} // namespace
 
 X11StatusPanel::X11StatusPanel(X11Connection &connection, std::unique_ptr<QWindow> window)
     : m_connection(connection), m_window(std::move(window))

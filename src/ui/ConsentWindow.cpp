@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "ui/ConsentWindow.h"
+
+#include "platform/Application.h"
+#include "ui/WindowPlacement.h"
+
+#include <QEvent>
+#include <QWindow>
+
+#include <utility>
+
+ConsentWindow::ConsentWindow(AIConsent &consent, const PackagedInfo &packagedInfo, Application &application,
+                             const Screens &screens, WindowFactory makeWindow)
+    : m_consent(consent),
+      m_packagedInfo(packagedInfo),
+      m_application(application),
+      m_screens(screens),
+      m_makeWindow(std::move(makeWindow))
+{
+}
+
+ConsentWindow::~ConsentWindow() = default;
+
+void ConsentWindow::show(bool isReview, FinishHandler onFinish)
+{
+    m_onFinish = nullptr;
+    dispose();
+    m_onFinish = std::move(onFinish);
+    m_disclosure =
+        new DisclosureView(isReview, m_consent, m_packagedInfo, [this](bool wantsConsent) { complete(wantsConsent); });
+    m_disclosure->setParent(this);
+    m_window = m_makeWindow(*m_disclosure);
+    m_window->installEventFilter(this);
+    WindowPlacement::centre(*m_window, m_screens);
+    m_application.bringToFront(*m_window);
+}
+
+void ConsentWindow::complete(bool wantsConsent)
+{
+    const FinishHandler onFinish = std::exchange(m_onFinish, nullptr);
+    dispose();
+    if (onFinish) {
+        onFinish(wantsConsent);
+    }
+}
+
+void ConsentWindow::dispose()
+{
+    if (!m_window) {
+        return;
+    }
+    m_window->removeEventFilter(this);
+    m_window->hide();
+    m_window.release()->deleteLater();
+}
+
+bool ConsentWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Close) {
+        complete(false); // by the title bar, or any way other than a button
+    }
+    return QObject::eventFilter(watched, event);
+}

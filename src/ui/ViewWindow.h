@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QVariantMap>
+
+#include <memory>
+
+class QQmlEngine;
+class QQuickView;
+
+/// A window, not yet shown, of the size of the view in it. `view` names a QML file of the program, `properties` are set
+/// before it is complete.
+std::unique_ptr<QQuickView> makeViewWindow(QQmlEngine &engine, const QString &view, const QVariantMap &properties);
