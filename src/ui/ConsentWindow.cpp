@@ -26,10 +26,10 @@ void ConsentWindow::show(bool isReview, FinishHandler onFinish)
     m_onFinish = nullptr;
     dispose();
     m_onFinish = std::move(onFinish);
-    m_disclosure =
-        new DisclosureView(isReview, m_consent, m_packagedInfo, [this](bool wantsConsent) { complete(wantsConsent); });
-    m_disclosure->setParent(this);
-    m_window = m_makeWindow(*m_disclosure);
+    auto disclosure = std::make_unique<DisclosureView>(isReview, m_consent, m_packagedInfo,
+                                                       [this](bool wantsConsent) { complete(wantsConsent); });
+    m_window = m_makeWindow(*disclosure);
+    disclosure.release()->setParent(m_window.get()); // it goes after the view that observes it
     m_window->installEventFilter(this);
     WindowPlacement::centre(*m_window, m_screens);
     m_application.bringToFront(*m_window);
