@@ -72,6 +72,7 @@ void TranscriptionStore::add(const QString &text, const std::optional<QString> &
     m_items.prepend(entry);
     m_entriesJson.prepend(json.bytes());
     save();
+    Q_EMIT added();
 }
 
 void TranscriptionStore::move(const QString &id, const std::optional<QString> &groupId)
@@ -79,16 +80,24 @@ void TranscriptionStore::move(const QString &id, const std::optional<QString> &g
     const auto entry = std::ranges::find(m_items, id, &Transcription::id);
     if (entry != m_items.end()) {
         entry->categoryId = groupId;
+        const auto place = entry - m_items.begin();
         encodeAll();
         save();
+        Q_EMIT changed(place);
     }
 }
 
 void TranscriptionStore::remove(const QString &id)
 {
-    m_items.removeIf([&](const Transcription &entry) { return entry.id == id; });
+    const auto place = std::ranges::find(m_items, id, &Transcription::id) - m_items.begin();
+    const auto count = m_items.removeIf([&](const Transcription &entry) { return entry.id == id; });
     encodeAll();
     save();
+    if (count == 1) {
+        Q_EMIT removed(place);
+    } else {
+        Q_EMIT reset();
+    }
 }
 
 void TranscriptionStore::clear()
@@ -96,6 +105,7 @@ void TranscriptionStore::clear()
     m_items.clear();
     encodeAll();
     save();
+    Q_EMIT reset();
 }
 
 void TranscriptionStore::load()

@@ -52,6 +52,14 @@ public:
 Q_SIGNALS:
     void itemsChanged();
 
+    // What changed, for a list that shows it: exactly one of these follows every `itemsChanged`, each with the place of
+    // the entry in `items`.
+    void added();
+    void changed(qsizetype place);
+    void removed(qsizetype place);
+    /// Anything else.
+    void reset();
+
 private:
     void load();
     void encodeAll();

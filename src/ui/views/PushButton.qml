@@ -11,6 +11,10 @@ T.Button {
     property bool isDestructive: false
     // Drawn as switched on, without being a default button.
     property bool isTinted: false
+    property color ground: SystemColors.control
+    property color ink: SystemColors.text
+    property color edge: SystemColors.controlBorder
+    property color ring: SystemColors.accent
 
     readonly property bool isFilled: isDefault || isTinted
 
@@ -30,7 +34,7 @@ T.Button {
         textFormat: Text.PlainText
         font: button.font
         color: button.isFilled ? SystemColors.accentText
-             : button.isDestructive ? SystemColors.red : SystemColors.text
+             : button.isDestructive ? SystemColors.red : button.ink
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
@@ -39,12 +43,12 @@ T.Button {
     background: Rectangle {
         radius: 6
         color: {
-            const ground = button.isFilled ? SystemColors.accent : SystemColors.control;
-            return button.down ? Qt.darker(ground, 1.15) : ground;
+            const fill = button.isFilled ? SystemColors.accent : button.ground;
+            return button.down ? Qt.darker(fill, 1.15) : fill;
         }
         border.width: 1
-        border.color: button.isFilled ? Qt.darker(SystemColors.accent, 1.1) : SystemColors.controlBorder
+        border.color: button.isFilled ? Qt.darker(SystemColors.accent, 1.1) : button.edge
 
-        FocusRing { visible: button.visualFocus }
+        FocusRing { visible: button.visualFocus; ringColor: button.ring }
     }
 }

@@ -6,6 +6,7 @@ Item {
     id: spinner
 
     property bool running: false
+    property color color: "white"
     property int step: 0
 
     implicitWidth: 16
@@ -29,7 +30,7 @@ Item {
             width: 2
             height: 4
             radius: 1
-            color: "white"
+            color: spinner.color
             opacity: 1 - ((spinner.step - index + 8) % 8) * 0.11
             transform: Rotation { origin.x: 1; origin.y: 7; angle: index * 45 }
         }

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import QtQuick.Templates as T
+import Quillo
+
+// The button that copies an entry, and says so for a while.
+T.Button {
+    id: pill
+
+    property bool isCopied: false
+    property color ink: isCopied ? Paper.accent : Paper.primary
+
+    text: isCopied ? "COPIED" : "COPY"
+    leftPadding: 12
+    rightPadding: 12
+    topPadding: 6
+    bottomPadding: 6
+    implicitWidth: Math.max(54, implicitContentWidth) + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    font: Paper.sansMedium(10, 1.5)
+    opacity: down ? 0.7 : 1
+    Accessible.name: isCopied ? "Copied" : "Copy"
+
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+
+    Behavior on ink { ColorAnimation { duration: 300; easing.type: Easing.InOutQuad } }
+
+    contentItem: Text {
+        text: pill.text
+        font: pill.font
+        color: pill.ink
+        horizontalAlignment: Text.AlignHCenter
+    }
+
+    background: Rectangle {
+        radius: 4
+        color: "transparent"
+        border.width: 1
+        border.color: pill.ink
+
+        FocusRing { visible: pill.visualFocus; corner: 4; ringColor: Paper.accent }
+    }
+}

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import QtQuick.Templates as T
+import Quillo
+
+// The search field and the rows, scrolling together.
+Item {
+    id: entries
+
+    required property HistoryModel history
+
+    clip: true
+
+    function startSearch() {
+        list.positionViewAtBeginning();
+        search.field.forceActiveFocus();
+        search.field.selectAll();
+    }
+
+    SearchField {
+        id: search
+
+        y: list.originY - list.contentY
+        z: 1
+        width: parent.width
+        text: entries.history.search
+        onTextChanged: entries.history.search = text
+        field.Keys.onDownPressed: list.forceActiveFocus()
+    }
+
+    ListView {
+        id: list
+
+        anchors.fill: parent
+        model: entries.history
+        // The search field lies above the list, so that it has a keyboard focus of its own; this is its room.
+        header: Item { width: 1; height: search.implicitHeight }
+        footer: Item { width: 1; height: 16 }
+        reuseItems: true
+        cacheBuffer: 300
+        boundsBehavior: Flickable.StopAtBounds
+        highlightMoveDuration: 0
+        keyNavigationEnabled: true
+        Accessible.role: Accessible.List
+        Accessible.name: "Entries"
+
+        T.ScrollBar.vertical: PaperScrollBar {}
+
+        delegate: EntryRow {
+            width: list.width
+            onCopy: list.copy(index)
+            onPressed: list.take(index)
+            onMenuRequested: position => list.openMenu(this, position)
+        }
+
+        Keys.onPressed: event => {
+            event.accepted = true;
+            if (event.matches(StandardKey.Copy))
+                copy(currentIndex);
+            else if (event.key === Qt.Key_Delete)
+                remove(currentIndex);
+            else if (event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier))
+                openMenu(currentItem, Qt.point(80, 40));
+            else if (event.key === Qt.Key_Home)
+                currentIndex = 0;
+            else if (event.key === Qt.Key_End)
+                currentIndex = count - 1;
+            else if (event.key === Qt.Key_PageDown || event.key === Qt.Key_PageUp)
+                page(event.key === Qt.Key_PageDown ? 1 : -1);
+            else if (event.key === Qt.Key_Up && currentIndex === 0)
+                search.field.forceActiveFocus();
+            else
+                event.accepted = false;
+        }
+
+        function copy(row) {
+            const item = itemAtIndex(row) as EntryRow;
+            if (item !== null && item.selectedText !== "")
+                entries.history.copyText(item.selectedText);
+            else if (row >= 0)
+                entries.history.copy(row);
+        }
+        function remove(row) {
+            if (row >= 0)
+                entries.history.remove(row);
+        }
+        function take(row) {
+            currentIndex = row;
+            forceActiveFocus();
+        }
+        function page(direction) {
+            const next = indexAt(10, Math.max(originY, contentY + direction * height) + height / 2);
+            currentIndex = next >= 0 ? next : direction > 0 ? count - 1 : 0;
+        }
+        function openMenu(item, position) {
+            if (item !== null)
+                menu.open(item, position);
+        }
+
+        Connections {
+            target: entries.history
+            function onSearchChanged() {
+                list.currentIndex = 0;
+                list.positionViewAtBeginning();
+            }
+        }
+    }
+
+    Column {
+        visible: entries.history.count === 0 && !entries.history.isSearching
+        y: search.height + 60
+        x: 24
+        width: parent.width - 48
+        spacing: 12
+
+        EmptyTitle { text: "No matches." }
+        EmptyHint { text: "Try a different search." }
+    }
+
+    EntryMenuLoader {
+        id: menu
+
+        history: entries.history
+    }
+}

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import Quillo
+
+// One entry of the history.
+FocusScope {
+    id: row
+
+    required property int index
+    required property string text
+    required property int day
+    required property int month
+    required property string meta
+    required property bool isCopied
+    required property bool showDivider
+    readonly property bool isCurrent: ListView.isCurrentItem
+    readonly property ListView list: ListView.view
+    readonly property string selectedText: content.item !== null ? content.item.selectedText : ""
+    readonly property bool isLong: text.length > 4000
+
+    signal copy
+    signal menuRequested(point position)
+    signal pressed
+
+    height: content.y + content.height + 10 + pill.height + 18
+    activeFocusOnTab: isCurrent
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: text + ", " + meta
+    Accessible.focusable: true
+    Accessible.selectable: true
+    Accessible.selected: isCurrent
+    Accessible.onPressAction: copy()
+
+    FocusRing {
+        visible: row.activeFocus && !pill.activeFocus
+        anchors { leftMargin: 8; rightMargin: 8; topMargin: 4; bottomMargin: 4 }
+        corner: 5
+        ringColor: Paper.accent
+    }
+
+    DiagonalDate {
+        x: 24
+        y: 18 + 3
+        day: row.day
+        month: row.month
+    }
+
+    Loader {
+        id: content
+
+        x: 24 + 44 + 16
+        y: 18
+        width: row.width - x - 24
+        height: Math.max(item !== null ? item.height : 0, 56 + 3 - 10 - pill.height)
+        sourceComponent: row.isLong ? longText : shortText
+    }
+    Component {
+        id: shortText
+
+        EntryPiece { content: row.text }
+    }
+    Component {
+        id: longText
+
+        LongEntryText {
+            pieces: pieceMaker.pieces(row.text)
+            visibleTop: row.list.contentY - row.y - content.y
+            visibleBottom: visibleTop + row.list.height
+        }
+    }
+    EntryText { id: pieceMaker }
+
+    MetaLabel {
+        anchors { left: content.left; right: pill.left; rightMargin: 8; verticalCenter: pill.verticalCenter }
+        label: row.meta
+        Accessible.ignored: true
+    }
+    CopyPill {
+        id: pill
+
+        anchors { right: content.right; top: content.bottom; topMargin: 10 }
+        isCopied: row.isCopied
+        focusPolicy: row.isCurrent ? Qt.StrongFocus : Qt.ClickFocus
+        onClicked: row.copy()
+    }
+
+    Rectangle {
+        visible: row.showDivider
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; leftMargin: 24; rightMargin: 24 }
+        height: 1
+        color: Paper.divider
+    }
+
+    PointHandler {
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onActiveChanged: {
+            if (active)
+                row.pressed();
+        }
+    }
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: eventPoint => row.menuRequested(eventPoint.position)
+    }
+}

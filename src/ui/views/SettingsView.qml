@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import QtQuick.Templates as T
+import Quillo
+
+// The settings window's content: a form of six sections. Every control takes effect at once.
+Rectangle {
+    id: view
+
+    required property var model
+    required property SettingsModel settings
+
+    implicitWidth: 500
+    implicitHeight: form.implicitHeight + 40
+    color: SystemColors.window
+
+    Shortcut {
+        sequences: ["Ctrl+W"]
+        onActivated: view.Window.window.close()
+    }
+
+    Flickable {
+        id: scroller
+
+        anchors.fill: parent
+        contentHeight: view.implicitHeight
+        interactive: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+
+        T.ScrollBar.vertical: PaperScrollBar { ink: SystemColors.secondary }
+
+        Column {
+            id: form
+
+            x: 20
+            y: 20
+            width: scroller.width - 40
+            spacing: 18
+
+            ShortcutSection { model: view.model; settings: view.settings }
+            GroupsSection { model: view.model; settings: view.settings }
+            PermissionsSection { model: view.model }
+            FormSection {
+                title: "General"
+
+                FormRow {
+                    label: "Open at login"
+
+                    SwitchControl {
+                        checked: view.model.launchesAtLogin
+                        onToggled: {
+                            view.model.launchesAtLogin = checked;
+                            checked = Qt.binding(() => view.model.launchesAtLogin);
+                        }
+                        Accessible.name: "Open at login"
+                    }
+                }
+            }
+            DataSection { model: view.model }
+            HistorySection { settings: view.settings }
+        }
+    }
+
+    // What has the focus stays in sight on a low screen.
+    Connections {
+        target: view.Window.window
+        function onActiveFocusItemChanged() {
+            const item = view.Window.activeFocusItem;
+            if (item === null || !scroller.interactive)
+                return;
+            const y = item.mapToItem(form, 0, 0).y + form.y;
+            if (y < scroller.contentY + 30 || y + item.height > scroller.contentY + scroller.height - 30)
+                scroller.contentY = Math.max(0, Math.min(scroller.contentHeight - scroller.height, y - scroller.height / 2));
+        }
+    }
+}

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "FakePlatform.h"
+#include "store/GroupStore.h"
+#include "store/TranscriptionStore.h"
+#include "ui/HistoryWindow.h"
+#include "ui/SettingsWindow.h"
+#include "ui/WindowViews.h"
+
+#include <QJSValue>
+#include <QQmlEngine>
+#include <QQmlPropertyMap>
+#include <QQuickView>
+
+/// The real windows on a desktop of fakes, with the controller's values as a plain map.
+struct Windows {
+    Windows()
+    {
+        const auto text = [](const char *utf8) { return QString::fromUtf8(utf8); };
+        for (const auto &[name, value] : std::initializer_list<std::pair<const char *, QVariant>>{
+                 {"state", text("idle")},
+                 {"statusText", text("Ready — hold ⌃⌥ Space and speak")},
+                 {"balance", 4821},
+                 {"isUnmetered", false},
+                 {"shortcutLabel", text("⌃⌥ Space")},
+                 {"groupShortcutLabel", text("⌃⌥ G")},
+                 {"historyShortcutLabel", text("⌃⌥ H")},
+                 {"shortcutError", QString()},
+                 {"groupShortcutError", QString()},
+                 {"historyShortcutError", QString()},
+                 {"singleKey", -1},
+                 {"singleKeyLabels", QStringList{text("Right ⌥ Option"), text("Right ⌘ Command"),
+                                                 text("Right ⌃ Control"), text("Fn (🌐)")}},
+                 {"isFnKey", false},
+                 {"triggerMode", 0},
+                 {"triggerModeLabels", QStringList{text("Tap to toggle, hold to talk"), text("Hold to talk"),
+                                                   text("Tap to toggle")}},
+                 {"isMicrophoneGranted", true},
+                 {"isTrusted", true},
+                 {"hasConsent", true},
+                 {"launchesAtLogin", false}}) {
+            model.insert(QString::fromLatin1(name), value);
+        }
+        for (const char *call : {"fixMicrophone", "fixAccessibility", "reviewConsent", "refreshBalance", "editGroups"}) {
+            const QString name = QString::fromLatin1(call);
+            // Counts its calls under "calls.NAME".
+            calls.insert(name, 0);
+            model.insert(name, engine.evaluate(QStringLiteral("(function(calls) { return () => { calls.%1 += 1; } })")
+                                                   .arg(name))
+                                   .call({engine.newQObject(&calls)})
+                                   .toVariant());
+        }
+        QQmlEngine::setObjectOwnership(&calls, QQmlEngine::CppOwnership);
+        history = std::make_unique<HistoryWindow>(
+            fake.application, fake.preferences, fake.screens, [this](HistoryWindow &window) {
+                auto made = makeHistoryWindow(engine, model, store, groups, window, fake.pasteboard, fake.clock);
+                historyView = qobject_cast<QQuickView *>(made.get());
+                return made;
+            });
+        settings = std::make_unique<SettingsWindow>(fake.application, fake.screens, [this] {
+            auto made =
+                makeSettingsWindow(engine, model, store, groups, fake.packagedInfo, fake.keyMonitors, shortcuts);
+            settingsView = qobject_cast<QQuickView *>(made.get());
+            return made;
+        });
+    }
+
+    FakePlatform fake;
+    TranscriptionStore store{fake.files, fake.clock};
+    GroupStore groups{fake.files, fake.preferences};
+    QQmlEngine engine;
+    QQmlPropertyMap calls;
+    QQmlPropertyMap model;
+    /// What the recorders did: "off", "on", "shortcut ⌃⌥ K".
+    QStringList recorded;
+    SettingsModel::Shortcuts shortcuts{
+        [this] { recorded.append(QStringLiteral("off")); }, [this] { recorded.append(QStringLiteral("on")); },
+        [this](const Shortcut &value) { recorded.append(QStringLiteral("shortcut ") + value.label()); },
+        [this](const Shortcut &value) { recorded.append(QStringLiteral("group ") + value.label()); },
+        [this](const Shortcut &value) { recorded.append(QStringLiteral("history ") + value.label()); }};
+    std::unique_ptr<HistoryWindow> history;
+    std::unique_ptr<SettingsWindow> settings;
+    QQuickView *historyView = nullptr;
+    QQuickView *settingsView = nullptr;
+};
