@@ -1,43 +1,50 @@
 // SPDX-License-Identifier: MIT
 #include "app/Backend.h"
 
-#include "engine/PocketSphinxEngine.h"
+#include "app/EngineChoice.h"
+#include "http/AccessLog.h"
 #include "support/Log.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+#include <sys/resource.h>
+#include <systemd/sd-daemon.h>
 
 #include <csignal>
 
 namespace {
 
-// The desktop program stops recording after 15 minutes.
-constexpr std::chrono::minutes longestRecording{20};
-
+/// Makes the folder of an SQLite file.
 QString withFolder(const QString &database)
 {
     const QDir folder(QFileInfo(database).absolutePath());
-    if (!folder.exists()) {
+    if (!Database::isPostgreSql(database) && !folder.exists()) {
         QDir().mkpath(folder.path());
         QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
     return database;
 }
 
-std::unique_ptr<Engine> makeEngine(const Settings &settings)
+net::ip::tcp::acceptor passedSocket(net::io_context &io)
 {
-    switch (settings.engine) {
-    case Settings::EngineKind::OpenAi:
-        return std::make_unique<OpenAiEngine>(settings.openAi);
-    case Settings::EngineKind::PocketSphinx:
-        break;
+    const auto descriptor = SD_LISTEN_FDS_START;
+    for (const auto family : {AF_INET, AF_INET6}) {
+        constexpr int listening = 1;
+        if (sd_is_socket(descriptor, family, SOCK_STREAM, listening) > 0) {
+            return {io, family == AF_INET ? net::ip::tcp::v4() : net::ip::tcp::v6(), descriptor};
+        }
     }
-    return std::make_unique<PocketSphinxEngine>(PocketSphinxEngine::defaultModelFolder());
+    throw std::runtime_error("the socket that systemd passed is not a listening TCP socket");
 }
 
 net::ip::tcp::acceptor listen(net::io_context &io, const net::ip::tcp::endpoint &endpoint)
 {
+    constexpr int unsetEnvironment = 1;
+    if (const auto count = sd_listen_fds(unsetEnvironment); count == 1) {
+        return passedSocket(io);
+    } else if (count > 1) {
+        throw std::runtime_error("systemd passed more than one socket");
+    }
     try {
         return {io, endpoint};
     } catch (const boost::system::system_error &error) {
@@ -55,30 +62,45 @@ std::string urlOf(const net::ip::tcp::endpoint &endpoint)
 
 ApiOptions withPublicUrl(ApiOptions options, const std::string &url)
 {
-    if (options.publicUrl.empty()) {
-        options.publicUrl = url;
+    if (options.checkout.publicUrl.empty()) {
+        options.checkout.publicUrl = url;
     }
     return options;
 }
 
-void logAccess(const AccessRecord &record)
+Server::AccessLog accessLog(Metrics &metrics, bool written)
 {
-    logLine(record.method + " " + record.route + " " + std::to_string(record.status) + " " +
-            std::to_string(record.duration.count()) + " ms");
+    return [&metrics, written](const AccessRecord &record) {
+        metrics.answered(record);
+        if (written) {
+            writeLine(accessLine(record));
+        }
+    };
+}
+
+/// Each connection takes a file descriptor, and the usual limit of 1024 is for programs that use select().
+void allowManyConnections()
+{
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NOFILE, &limit) == 0) {
+        limit.rlim_cur = limit.rlim_max;
+        setrlimit(RLIMIT_NOFILE, &limit);
+    }
 }
 
 } // namespace
 
 Backend::Backend(const Settings &settings)
     : m_signals(m_io, SIGTERM, SIGINT),
-      m_store(withFolder(settings.database), settings.grants, [] { return QDateTime::currentSecsSinceEpoch(); }),
-      m_transcriber(makeEngine(settings), longestRecording),
+      m_store(withFolder(settings.database), settings.grants, systemClock()),
+      m_transcriber(makeEngine(settings), longestRecording, settings.engineQueue),
       m_acceptor(listen(m_io, settings.endpoint)),
       m_url(urlOf(m_acceptor.local_endpoint())),
-      m_api(withPublicUrl(settings.api, m_url), m_store, m_transcriber),
-      m_server(
-          std::move(m_acceptor), m_api, {}, settings.verbose ? logAccess : [](const AccessRecord &) {})
+      m_api(withPublicUrl(settings.api, m_url), m_store, m_transcriber, systemClock()),
+      m_server(std::move(m_acceptor), m_api, settings.server, accessLog(m_api.metrics(), settings.accessLog))
 {
+    allowManyConnections();
+    m_api.countConnections([this] { return m_server.connections(); });
 }
 
 void Backend::run()
@@ -86,9 +108,11 @@ void Backend::run()
     m_signals.async_wait([this](const boost::system::error_code &error, int) {
         if (!error) {
             m_signals.clear();
+            sd_notify(0, "STOPPING=1");
             m_server.stop();
         }
     });
     m_server.start();
+    sd_notify(0, "READY=1");
     m_io.run();
 }

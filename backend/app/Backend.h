@@ -2,10 +2,6 @@
 #pragma once
 
 #include "app/Settings.h"
-#include "engine/Transcriber.h"
-#include "http/Api.h"
-#include "http/Server.h"
-#include "store/StoreThread.h"
 
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/signal_set.hpp>
@@ -13,19 +9,21 @@
 /// The whole server, built once from its settings.
 class Backend {
 public:
-    /// Opens the database and listens. Throws std::exception with a text for the operator.
+    /// Opens the database and listens: on the socket that systemd passed, if it did, otherwise on the settings'
+    /// endpoint. Throws std::exception with a text for the operator.
     explicit Backend(const Settings &settings);
 
     /// Where it listens, such as "http://127.0.0.1:8791".
     std::string url() const { return m_url; }
 
-    /// Serves until SIGTERM or SIGINT, and then until the running requests are answered. A second signal kills.
+    /// Tells systemd, if it asked to be told, that the server is ready, and serves until SIGTERM or SIGINT, and then
+    /// until the running requests are answered. A second signal kills.
     void run();
 
 private:
     net::io_context m_io{1};
     net::signal_set m_signals;
-    StoreThread m_store;
+    StoreThreads m_store;
     Transcriber m_transcriber;
     net::ip::tcp::acceptor m_acceptor;
     std::string m_url;

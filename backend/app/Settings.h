@@ -1,39 +1,30 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/Options.h"
 #include "engine/OpenAiEngine.h"
 #include "http/Api.h"
-#include "store/DeviceStore.h"
+#include "http/Server.h"
 
-#include <QString>
-#include <QStringList>
 #include <boost/asio/ip/tcp.hpp>
 
-#include <stdexcept>
-
-/// A wrong value on the command line or in the configuration file, in one line for the operator.
-class SettingsError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
-/// What the server is started with: the command line over the configuration file over the defaults.
+/// What the server is started with.
 struct Settings {
     enum class EngineKind { PocketSphinx, OpenAi };
 
     net::ip::tcp::endpoint endpoint;
     QString database;
     EngineKind engine = EngineKind::PocketSphinx;
+    int engineQueue = 256;
     OpenAiOptions openAi;
     GrantPolicy grants;
     ApiOptions api; ///< with an empty public address for the one that the server listens on
-    bool verbose = false;
+    ServerOptions server;
+    bool accessLog = false;
 };
 
-struct CommandLine {
-    QString answer; ///< of --help and --version: to be printed instead of starting
-    Settings settings;
-};
+/// Reads the files that the options name. Throws SettingsError.
+Settings settingsOf(const Options &options);
 
-/// `arguments` begin with the program's name. Reads the files they name; throws SettingsError.
-CommandLine parseCommandLine(const QStringList &arguments);
+/// `settings.database` as it may be shown: without a password.
+QString shownDatabase(const QString &database);

@@ -100,10 +100,10 @@ Format openFormat(const Input &input)
     return Format(context);
 }
 
-/// Converts decoded frames to `Samples`, and counts them against the limit.
+/// Converts decoded frames, passes them on, and counts them against the limit.
 class Resampler {
 public:
-    explicit Resampler(size_t limit) : m_limit(limit) {}
+    Resampler(size_t limit, const SampleSink &sink) : m_limit(limit), m_sink(sink) {}
 
     void add(const AVFrame &frame)
     {
@@ -122,7 +122,7 @@ public:
         }
     }
 
-    Samples take() { return std::move(m_samples); }
+    size_t count() const { return m_count; }
 
 private:
     void restart(const AVFrame &frame)
@@ -145,17 +145,20 @@ private:
     void convert(const uint8_t **data, int count)
     {
         const auto room = swr_get_out_samples(m_converter.get(), count);
-        const auto before = m_samples.size();
-        m_samples.resize(before + static_cast<size_t>(std::max(room, 0)));
-        auto *target = reinterpret_cast<uint8_t *>(m_samples.data() + before);
+        m_samples.resize(static_cast<size_t>(std::max(room, 0)));
+        auto *target = reinterpret_cast<uint8_t *>(m_samples.data());
         const auto written = swr_convert(m_converter.get(), &target, room, data, count);
-        m_samples.resize(before + static_cast<size_t>(std::max(written, 0)));
-        if (m_samples.size() > m_limit) {
+        const auto samples = std::span(m_samples).first(static_cast<size_t>(std::max(written, 0)));
+        m_count += samples.size();
+        if (m_count > m_limit) {
             throw AudioError(AudioError::Kind::TooLong, "longer than the limit");
         }
+        m_sink(samples);
     }
 
     size_t m_limit;
+    const SampleSink &m_sink;
+    size_t m_count = 0;
     Converter m_converter;
     int m_rate = 0;
     int m_format = -1;
@@ -188,7 +191,7 @@ void decodePacket(AVCodecContext &codec, const AVPacket *packet, AVFrame &frame,
 
 } // namespace
 
-Samples decodeAudio(std::string_view file, std::chrono::seconds longest)
+size_t decodeAudio(std::string_view file, std::chrono::seconds longest, const SampleSink &sink)
 {
     av_log_set_level(AV_LOG_QUIET);
     constexpr int bufferSize = 32 * 1024;
@@ -206,7 +209,7 @@ Samples decodeAudio(std::string_view file, std::chrono::seconds longest)
         unsupported("no audio track");
     }
     const auto codec = openCodec(*format->streams[stream]);
-    Resampler resampler(static_cast<size_t>(longest.count()) * speechRate);
+    Resampler resampler(static_cast<size_t>(longest.count()) * speechRate, sink);
     while (av_read_frame(format.get(), packet.get()) >= 0) {
         if (packet->stream_index == stream) {
             decodePacket(*codec, packet.get(), *frame, resampler);
@@ -215,9 +218,16 @@ Samples decodeAudio(std::string_view file, std::chrono::seconds longest)
     }
     decodePacket(*codec, nullptr, *frame, resampler);
     resampler.flush();
-    auto samples = resampler.take();
-    if (samples.empty()) {
+    if (resampler.count() == 0) {
         unsupported("nothing could be decoded");
     }
+    return resampler.count();
+}
+
+Samples decodeAudio(std::string_view file, std::chrono::seconds longest)
+{
+    Samples samples;
+    decodeAudio(file, longest,
+                [&](std::span<const int16_t> piece) { samples.insert(samples.end(), piece.begin(), piece.end()); });
     return samples;
 }

@@ -3,6 +3,8 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
+#include <span>
 #include <stdexcept>
 #include <string_view>
 #include <vector>
@@ -27,6 +29,12 @@ private:
     Kind m_kind;
 };
 
-/// Decodes the first AAC track of an MPEG-4 file held in memory; nothing is written anywhere. Any thread.
-/// Throws AudioError, TooLong as soon as more than `longest` has been decoded.
+using SampleSink = std::function<void(std::span<const int16_t>)>;
+
+/// Decodes the first AAC track of an MPEG-4 file held in memory, piece by piece in order; nothing is written anywhere.
+/// Returns the number of samples, at least one. Any thread. Throws AudioError, TooLong as soon as more than `longest`
+/// has been decoded.
+size_t decodeAudio(std::string_view file, std::chrono::seconds longest, const SampleSink &sink);
+
+/// The same, all at once.
 Samples decodeAudio(std::string_view file, std::chrono::seconds longest);

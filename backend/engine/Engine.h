@@ -3,21 +3,32 @@
 
 #include <QString>
 
-#include <cstdint>
-#include <span>
+#include <chrono>
+#include <optional>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 
-/// One recording in both forms an engine may want; the owner keeps both alive during a transcription.
+/// One recording that was decoded before, so it is sound; its owner keeps it alive during a transcription.
 struct Recording {
-    std::string_view file;            ///< the MPEG-4 file as it was uploaded
-    std::span<const int16_t> samples; ///< mono, `speechRate`
+    std::string_view file;        ///< the MPEG-4 file as it was uploaded
+    std::chrono::seconds longest; ///< at least its duration
 };
 
 /// The engine can't transcribe now. The text is for the operator; it holds no secret and nothing that was said.
 class EngineError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
+    EngineError(const std::string &what, std::optional<std::chrono::seconds> retryAfter)
+        : std::runtime_error(what), m_retryAfter(retryAfter)
+    {
+    }
+
+    /// When it may be able to again, if it knows.
+    std::optional<std::chrono::seconds> retryAfter() const { return m_retryAfter; }
+
+private:
+    std::optional<std::chrono::seconds> m_retryAfter;
 };
 
 /// What turns speech into text. Used from threads of its own, never from the I/O thread, so it may block.

@@ -1,101 +1,147 @@
 // SPDX-License-Identifier: MIT
 #include "engine/OpenAiEngine.h"
 
+#include "support/Curl.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <curl/curl.h>
 
+#include <algorithm>
 #include <memory>
+#include <thread>
 #include <utility>
 
 namespace {
 
-constexpr size_t largestAnswer = 4UL * 1024 * 1024;
+/// Reads the recording where it is, instead of copying it into the form.
+struct Cursor {
+    std::string_view data;
+    size_t position = 0;
 
-template <auto Free> struct Deleter {
-    template <class T> void operator()(T *object) const { Free(object); }
-};
-using Transfer = std::unique_ptr<CURL, Deleter<curl_easy_cleanup>>;
-using Form = std::unique_ptr<curl_mime, Deleter<curl_mime_free>>;
-using Headers = std::unique_ptr<curl_slist, Deleter<curl_slist_free_all>>;
-
-size_t collect(char *data, size_t, size_t size, void *opaque)
-{
-    auto &answer = *static_cast<std::string *>(opaque);
-    if (answer.size() + size > largestAnswer) {
-        return 0; // ends the transfer
+    static size_t read(char *target, size_t size, size_t count, void *opaque)
+    {
+        auto &cursor = *static_cast<Cursor *>(opaque);
+        const auto copied = cursor.data.copy(target, size * count, cursor.position);
+        cursor.position += copied;
+        return copied;
     }
-    answer.append(data, size);
-    return size;
-}
+
+    static int seek(void *opaque, curl_off_t offset, int origin)
+    {
+        if (origin != SEEK_SET) {
+            return CURL_SEEKFUNC_CANTSEEK;
+        }
+        static_cast<Cursor *>(opaque)->position = static_cast<size_t>(offset);
+        return CURL_SEEKFUNC_OK;
+    }
+};
 
 void addField(curl_mime *form, const char *name, const std::string &value)
 {
-    auto *part = curl_mime_addpart(form);
-    curl_mime_name(part, name);
-    curl_mime_data(part, value.data(), value.size());
+    if (!value.empty()) {
+        auto *part = curl_mime_addpart(form);
+        curl_mime_name(part, name);
+        curl_mime_data(part, value.data(), value.size());
+    }
 }
 
-Form makeForm(CURL *transfer, const Recording &recording, const std::string &model)
+CurlForm makeForm(CURL *transfer, Cursor &recording, const OpenAiOptions &options)
 {
-    Form form(curl_mime_init(transfer));
+    CurlForm form(curl_mime_init(transfer));
     auto *file = curl_mime_addpart(form.get());
     curl_mime_name(file, "file");
     curl_mime_filename(file, "recording.m4a");
     curl_mime_type(file, "audio/mp4");
-    curl_mime_data(file, recording.file.data(), recording.file.size());
-    addField(form.get(), "model", model);
+    curl_mime_data_cb(file, static_cast<curl_off_t>(recording.data.size()), Cursor::read, Cursor::seek, nullptr,
+                      &recording);
+    addField(form.get(), "model", options.model);
+    addField(form.get(), "language", options.language);
+    addField(form.get(), "prompt", options.prompt);
     addField(form.get(), "response_format", "json");
     return form;
 }
 
+std::chrono::milliseconds until(std::chrono::steady_clock::time_point deadline)
+{
+    return std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+}
+
 } // namespace
 
-OpenAiEngine::OpenAiEngine(OpenAiOptions options) : m_options(std::move(options))
-{
-    static const auto initialised = curl_global_init(CURL_GLOBAL_DEFAULT);
-    if (initialised != CURLE_OK) {
-        throw EngineError("libcurl could not be initialised");
+struct OpenAiEngine::Answer {
+    CURLcode result = CURLE_OK;
+    long status = 0;
+    curl_off_t retryAfter = 0; ///< in seconds; 0 when the server does not say
+    std::string body;
+
+    bool isTemporary() const
+    {
+        return result == CURLE_COULDNT_CONNECT || result == CURLE_GOT_NOTHING ||
+               (result == CURLE_OK && (status == 429 || status >= 500));
     }
-}
+
+    QString text() const
+    {
+        if (result != CURLE_OK) {
+            throw EngineError(std::string("the transcription server can't be used: ") + curl_easy_strerror(result));
+        }
+        // The body of a refusal may quote the key, so only the status is told.
+        if (status != 200) {
+            const auto delay = retryAfter > 0 ? std::optional(std::chrono::seconds(retryAfter)) : std::nullopt;
+            throw EngineError("the transcription server answered with status " + std::to_string(status), delay);
+        }
+        const auto text = QJsonDocument::fromJson(QByteArray::fromStdString(body)).object()[QLatin1String("text")];
+        if (!text.isString()) {
+            throw EngineError("the transcription server's answer has no text");
+        }
+        return text.toString();
+    }
+};
+
+OpenAiEngine::OpenAiEngine(OpenAiOptions options) : m_options(std::move(options)) {}
 
 QString OpenAiEngine::transcribe(const Recording &recording)
 {
-    const Transfer transfer(curl_easy_init());
-    auto *curl = transfer.get();
-    if (!curl) {
-        throw EngineError("libcurl has no memory");
+    const auto deadline = std::chrono::steady_clock::now() + m_options.timeout;
+    for (int attempt = 1;; ++attempt) {
+        const auto answer = ask(recording, deadline);
+        if (!answer.isTemporary() || attempt >= m_options.attempts || !wait(answer, attempt, deadline)) {
+            return answer.text();
+        }
     }
+}
+
+/// False when the delay does not fit in before the deadline.
+bool OpenAiEngine::wait(const Answer &answer, int attempt, Deadline deadline) const
+{
+    std::chrono::milliseconds delay = m_options.firstDelay * (1 << (attempt - 1));
+    if (answer.retryAfter > 0) {
+        delay = std::chrono::seconds(answer.retryAfter);
+    }
+    if (delay >= until(deadline)) {
+        return false;
+    }
+    std::this_thread::sleep_for(delay);
+    return true;
+}
+
+OpenAiEngine::Answer OpenAiEngine::ask(const Recording &recording, Deadline deadline) const
+{
     const auto url = m_options.baseUrl + "/audio/transcriptions";
-    const auto form = makeForm(curl, recording, m_options.model);
-    Headers headers;
+    Answer answer;
+    const auto transfer = newCurlTransfer(url, answer.body);
+    auto *curl = transfer.get();
+    Cursor cursor{recording.file};
+    const auto form = makeForm(curl, cursor, m_options);
+    CurlHeaders headers;
     if (!m_options.key.empty()) {
         headers.reset(curl_slist_append(nullptr, ("Authorization: Bearer " + m_options.key).c_str()));
     }
-    std::string answer;
-    curl_easy_setopt(curl, CURLOPT_URL, url.c_str());
-    curl_easy_setopt(curl, CURLOPT_PROTOCOLS_STR, "http,https");
-    curl_easy_setopt(curl, CURLOPT_FOLLOWLOCATION, 0L);
-    curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
-    curl_easy_setopt(curl, CURLOPT_CONNECTTIMEOUT, 10L);
-    curl_easy_setopt(curl, CURLOPT_TIMEOUT, static_cast<long>(m_options.timeout.count()));
+    curl_easy_setopt(curl, CURLOPT_TIMEOUT_MS, static_cast<long>(std::max<int64_t>(until(deadline).count(), 1)));
     curl_easy_setopt(curl, CURLOPT_HTTPHEADER, headers.get());
     curl_easy_setopt(curl, CURLOPT_MIMEPOST, form.get());
-    curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, collect);
-    curl_easy_setopt(curl, CURLOPT_WRITEDATA, &answer);
-
-    if (const auto result = curl_easy_perform(curl); result != CURLE_OK) {
-        throw EngineError(std::string("the transcription server can't be used: ") + curl_easy_strerror(result));
-    }
-    long status = 0;
-    curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &status);
-    // The body of a refusal may quote the key, so only the status is told.
-    if (status != 200) {
-        throw EngineError("the transcription server answered with status " + std::to_string(status));
-    }
-    const auto text = QJsonDocument::fromJson(QByteArray::fromStdString(answer)).object()[QLatin1String("text")];
-    if (!text.isString()) {
-        throw EngineError("the transcription server's answer has no text");
-    }
-    return text.toString();
+    answer.result = curl_easy_perform(curl);
+    curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &answer.status);
+    curl_easy_getinfo(curl, CURLINFO_RETRY_AFTER, &answer.retryAfter);
+    return answer;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "engine/PocketSphinxEngine.h"
 
+#include "audio/AudioDecoder.h"
+
 #include <QFile>
 #include <pocketsphinx.h>
 #include <sphinxbase/err.h>
@@ -51,11 +53,11 @@ QString PocketSphinxEngine::transcribe(const Recording &recording)
     }
     constexpr int searchNow = FALSE;
     constexpr int wholeUtterance = TRUE;
+    const auto samples = decodeAudio(recording.file, recording.longest);
     if (ps_start_utt(m_decoder.get()) < 0) {
         throw EngineError("PocketSphinx did not start");
     }
-    const auto processed =
-        ps_process_raw(m_decoder.get(), recording.samples.data(), recording.samples.size(), searchNow, wholeUtterance);
+    const auto processed = ps_process_raw(m_decoder.get(), samples.data(), samples.size(), searchNow, wholeUtterance);
     if (ps_end_utt(m_decoder.get()) < 0 || processed < 0) {
         throw EngineError("PocketSphinx failed");
     }

@@ -1,52 +1,40 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/Transcriber.h"
-#include "http/Http.h"
-#include "store/StoreThread.h"
-
-#include <span>
-#include <string>
+#include "http/CheckoutEndpoints.h"
+#include "http/DeviceEndpoints.h"
+#include "http/TranscribeEndpoint.h"
 
 struct ApiOptions {
-    std::string publicUrl; ///< under which people reach this server, without a "/" at its end
-    qint64 tokensPerSecond = 1;
-    size_t largestUpload = 32UL * 1024 * 1024;
-    /// The development provider: a checkout page that credits tokens at once, without a payment.
-    bool manualCheckout = true;
+    TranscribeEndpoint::Options transcription = {};
+    CheckoutOptions checkout = {};
+    int registrationsPerHour = 60; ///< of one address; 0 is no limit
 };
 
-/// The endpoints: which path does what, who may, and what it costs.
+/// All endpoints, and what they share.
 class Api : public RequestHandler {
 public:
     /// `store` and `transcriber` must outlive it.
-    Api(ApiOptions options, StoreThread &store, Transcriber &transcriber);
+    Api(const ApiOptions &options, StoreThreads &store, Transcriber &transcriber, const WallClock &clock);
 
-    size_t bodyLimit(std::string_view path) const override;
-    net::awaitable<Reply> handle(const Request &request) override;
+    size_t bodyLimit(std::string_view path) const override { return m_router.bodyLimit(path); }
+    net::awaitable<Reply> handle(const Request &request) override { return m_router.handle(request); }
+
+    Metrics &metrics() { return m_metrics; }
+
+    /// Tells the metrics how many connections there are.
+    void countConnections(std::function<size_t()> connections) { m_connections = std::move(connections); }
 
 private:
-    struct Route {
-        std::string_view method;
-        std::string_view path; ///< with "*" at its end: whatever begins so
-        net::awaitable<Reply> (Api::*handler)(const Request &);
-    };
+    net::awaitable<Reply> health(const Request &request);
+    net::awaitable<Reply> showMetrics(const Request &request);
 
-    static std::span<const Route> routes();
-    static bool matches(const Route &route, std::string_view path);
-
-    net::awaitable<Reply> registerDevice(const Request &request);
-    net::awaitable<Reply> transcribe(const Request &request);
-    net::awaitable<Reply> balance(const Request &request);
-    net::awaitable<Reply> createCheckoutLink(const Request &request);
-    net::awaitable<Reply> showCheckout(const Request &request);
-    net::awaitable<Reply> buy(const Request &request);
-
-    net::awaitable<Device> authenticate(const Request &request);
-    net::awaitable<Samples> decode(std::string_view file);
-    net::awaitable<QString> textOf(Recording recording, const Request &request);
-
-    ApiOptions m_options;
-    StoreThread &m_store;
+    StoreThreads &m_store;
     Transcriber &m_transcriber;
+    Metrics m_metrics;
+    std::function<size_t()> m_connections = [] { return 0; };
+    DeviceEndpoints m_devices;
+    TranscribeEndpoint m_transcription;
+    CheckoutEndpoints m_checkout;
+    Router m_router;
 };

@@ -10,6 +10,7 @@
 #include <boost/beast/http/write.hpp>
 #include <sys/socket.h>
 
+#include <algorithm>
 #include <cerrno>
 
 namespace beast = boost::beast;
@@ -22,6 +23,16 @@ using Clock = std::chrono::steady_clock;
 constexpr size_t readAhead = 128UL * 1024;
 constexpr uint32_t largestHeader = 16'384;
 constexpr size_t mostDiscarded = 64UL * 1024 * 1024;
+// For a request that a client is sending while the server stops.
+constexpr std::chrono::seconds lastChance{1};
+
+/// An IPv4 address in the form it has without IPv6.
+net::ip::address unmapped(const net::ip::address &address)
+{
+    return address.is_v6() && address.to_v6().is_v4_mapped()
+               ? net::ip::address(net::ip::make_address_v4(net::ip::v4_mapped, address.to_v6()))
+               : address;
+}
 
 std::string text(beast::string_view view)
 {
@@ -51,16 +62,22 @@ std::optional<Reply> replyTo(const beast::error_code &error)
 
 } // namespace
 
-Connection::Connection(net::ip::tcp::socket socket, RequestHandler &handler, const ServerLimits &limits,
+Connection::Connection(net::ip::tcp::socket socket, RequestHandler &handler, const ServerOptions &options,
                        const Server::AccessLog &log)
-    : m_stream(std::move(socket)), m_buffer(readAhead), m_handler(handler), m_limits(limits), m_log(log)
+    : m_stream(std::move(socket)), m_buffer(readAhead), m_handler(handler), m_options(options), m_log(log)
 {
+    beast::error_code error;
+    m_peer = unmapped(m_stream.socket().remote_endpoint(error).address());
+    m_stream.socket().set_option(net::ip::tcp::no_delay(true), error);
 }
 
 void Connection::finish()
 {
     m_last = true;
-    if (m_idle) {
+    beast::error_code error;
+    if (m_idle && m_fresh) {
+        m_stream.expires_after(lastChance);
+    } else if (m_idle && m_stream.socket().available(error) == 0) {
         m_stream.cancel();
     }
 }
@@ -68,9 +85,9 @@ void Connection::finish()
 net::awaitable<void> Connection::run()
 {
     try {
-        while (!m_last) {
+        do {
             co_await serveOne();
-        }
+        } while (!m_last);
         co_await close();
     } catch (const beast::system_error &) {
         // The client went away or was too slow; there is nobody to tell.
@@ -86,6 +103,7 @@ net::awaitable<void> Connection::serveOne()
     Parser parser;
     auto refusal = co_await read(parser);
     AccessRecord record;
+    record.address = clientAddress(parser).to_string();
     unsigned version = 11;
     Reply reply;
     if (refusal) {
@@ -95,42 +113,61 @@ net::awaitable<void> Connection::serveOne()
         auto &message = parser.get();
         version = message.version();
         m_last = m_last || !message.keep_alive();
-        Request request{text(message.method_string()),
-                        pathOf(message.target()),
-                        text(message[http::field::authorization]),
-                        text(message[http::field::content_type]),
-                        std::move(message.body()),
-                        [this] { return isConnected(); }};
+        const Request request{text(message.method_string()),
+                              pathOf(message.target()),
+                              clientAddress(parser),
+                              text(message[http::field::authorization]),
+                              text(message[http::field::content_type]),
+                              text(message["Stripe-Signature"]),
+                              std::move(message.body()),
+                              [this] { return isConnected(); }};
         record.method = request.method;
+        record.received = request.body.size();
+        m_buffer.shrink_to_fit();
         m_stream.expires_never();
         reply = co_await m_handler.handle(request);
     }
-    const auto delivered = co_await write(reply, version);
-    if (!delivered && reply.undelivered) {
-        co_await reply.undelivered();
+    record.sent = reply.body.size();
+    record.delivered = co_await write(reply, version);
+    if (reply.sent) {
+        co_await reply.sent(record.delivered);
     }
     record.route = reply.route;
     record.status = reply.status;
-    record.duration = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - started);
+    record.duration = std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - started);
     m_log(record);
+}
+
+net::ip::address Connection::clientAddress(const Parser &parser) const
+{
+    if (std::ranges::find(m_options.trustedProxies, m_peer) == m_options.trustedProxies.end()) {
+        return m_peer;
+    }
+    // The last entry is the one that the proxy itself wrote.
+    const auto header = text(parser.get()["X-Forwarded-For"]);
+    const auto start = header.find_last_of(", ");
+    beast::error_code error;
+    const auto address = net::ip::make_address(header.substr(start == std::string::npos ? 0 : start + 1), error);
+    return error ? m_peer : unmapped(address);
 }
 
 net::awaitable<void> Connection::waitForRequest()
 {
     m_idle = true;
     while (m_buffer.size() == 0) {
-        m_stream.expires_after(m_limits.idle);
+        m_stream.expires_after(m_last ? std::chrono::milliseconds(lastChance) : m_options.idle);
         const auto count = co_await m_stream.async_read_some(m_buffer.prepare(4096), net::use_awaitable);
         m_buffer.commit(count);
     }
     m_idle = false;
+    m_fresh = false;
 }
 
 net::awaitable<std::optional<Reply>> Connection::read(Parser &parser)
 {
     parser.header_limit(largestHeader);
     parser.body_limit(boost::none); // until the path is known
-    m_stream.expires_after(m_limits.header);
+    m_stream.expires_after(m_options.header);
     beast::error_code error;
     co_await http::async_read_header(m_stream, m_buffer, parser, net::redirect_error(net::use_awaitable, error));
     if (auto refusal = replyTo(error)) {
@@ -142,8 +179,9 @@ net::awaitable<std::optional<Reply>> Connection::read(Parser &parser)
     }
     parser.body_limit(limit);
     co_await allowBody(parser);
+    const auto deadline = Clock::now() + m_options.body;
     while (!parser.is_done()) {
-        m_stream.expires_after(m_limits.stall);
+        m_stream.expires_at(std::min(Clock::now() + m_options.stall, deadline));
         co_await http::async_read_some(m_stream, m_buffer, parser, net::redirect_error(net::use_awaitable, error));
         if (auto refusal = replyTo(error)) {
             co_return refusal;
@@ -156,12 +194,12 @@ net::awaitable<void> Connection::allowBody(const Parser &parser)
 {
     if (beast::iequals(parser.get()[http::field::expect], "100-continue")) {
         static constexpr std::string_view permission = "HTTP/1.1 100 Continue\r\n\r\n";
-        m_stream.expires_after(m_limits.stall);
+        m_stream.expires_after(m_options.stall);
         co_await net::async_write(m_stream, net::buffer(permission), net::use_awaitable);
     }
 }
 
-net::awaitable<bool> Connection::write(const Reply &reply, unsigned version)
+net::awaitable<bool> Connection::write(Reply &reply, unsigned version)
 {
     http::response<http::string_body> response;
     response.version(version);
@@ -173,10 +211,10 @@ net::awaitable<bool> Connection::write(const Reply &reply, unsigned version)
     for (const auto &[name, value] : reply.headers) {
         response.set(name, value);
     }
-    response.body() = reply.body;
+    response.body() = std::move(reply.body);
     response.prepare_payload();
     beast::error_code error;
-    m_stream.expires_after(m_limits.stall);
+    m_stream.expires_after(m_options.stall);
     co_await http::async_write(m_stream, response, net::redirect_error(net::use_awaitable, error));
     m_last = m_last || error;
     co_return !error;
@@ -187,7 +225,7 @@ net::awaitable<void> Connection::close()
 {
     beast::error_code error;
     m_stream.socket().shutdown(net::ip::tcp::socket::shutdown_send, error);
-    m_stream.expires_after(m_limits.linger);
+    m_stream.expires_after(m_options.linger);
     m_buffer.clear();
     for (size_t discarded = 0; !error && discarded < mostDiscarded;) {
         const auto scratch = m_buffer.prepare(65'536);

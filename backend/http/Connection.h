@@ -13,13 +13,14 @@
 /// One client's connection: its requests, one after the other. I/O thread only.
 class Connection {
 public:
-    Connection(net::ip::tcp::socket socket, RequestHandler &handler, const ServerLimits &limits,
+    Connection(net::ip::tcp::socket socket, RequestHandler &handler, const ServerOptions &options,
                const Server::AccessLog &log);
 
     /// Serves requests until the client or finish() ends it, or a limit is broken. Does not throw.
     net::awaitable<void> run();
 
-    /// Ends the connection: at once when no request is on its way, otherwise after its reply.
+    /// Ends the connection: at once when no request is on its way, otherwise after its reply. A connection without any
+    /// request so far has a moment to send one.
     void finish();
 
 private:
@@ -30,15 +31,18 @@ private:
     /// The reply to a request that is malformed or too large, or nothing when it was read whole.
     net::awaitable<std::optional<Reply>> read(Parser &parser);
     net::awaitable<void> allowBody(const Parser &parser);
-    net::awaitable<bool> write(const Reply &reply, unsigned version);
+    net::awaitable<bool> write(Reply &reply, unsigned version);
     net::awaitable<void> close();
     bool isConnected();
+    net::ip::address clientAddress(const Parser &parser) const;
 
     boost::beast::tcp_stream m_stream;
+    net::ip::address m_peer;
     boost::beast::flat_buffer m_buffer;
     RequestHandler &m_handler;
-    const ServerLimits &m_limits;
+    const ServerOptions &m_options;
     const Server::AccessLog &m_log;
     bool m_idle = true;
+    bool m_fresh = true; ///< no request has begun
     bool m_last = false;
 };

@@ -20,6 +20,9 @@ Reply Refusal::reply() const
     if (m_status == 401) {
         reply.headers.emplace_back("WWW-Authenticate", "Bearer");
     }
+    if (m_retryAfter) {
+        reply.headers.emplace_back("Retry-After", std::to_string(m_retryAfter->count()));
+    }
     return reply;
 }
 

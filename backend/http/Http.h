@@ -3,7 +3,11 @@
 
 #include "support/Asio.h"
 
+#include <boost/asio/ip/address.hpp>
+
+#include <chrono>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -14,9 +18,11 @@ class QJsonObject;
 /// One request, read whole. It outlives the coroutine that handles it.
 struct Request {
     std::string method;
-    std::string path; ///< without the query
+    std::string path;         ///< without the query
+    net::ip::address address; ///< the client's, also behind a trusted proxy
     std::string authorization;
     std::string contentType;
+    std::string signature; ///< of a payment provider's message
     std::string body;
     /// Whether the client still waits for the reply; any thread.
     std::function<bool()> connected;
@@ -29,8 +35,8 @@ struct Reply {
     std::vector<std::pair<std::string, std::string>> headers;
     /// What the access log names instead of the path, which may hold a checkout link's token.
     std::string route = "-";
-    /// Called when the reply could not be sent.
-    std::function<net::awaitable<void>()> undelivered;
+    /// Called once when the reply has been sent, with true, or could not be.
+    std::function<net::awaitable<void>(bool delivered)> sent;
 };
 
 /// A request that is answered with an error document. Both texts are literals.
@@ -43,6 +49,14 @@ public:
 
     Reply reply() const;
 
+    /// The same, to be tried again after this time.
+    Refusal retryAfter(std::chrono::seconds delay) const
+    {
+        auto refusal = *this;
+        refusal.m_retryAfter = delay;
+        return refusal;
+    }
+
     static Refusal badRequest() { return {400, "bad_request", "The request could not be understood."}; }
     static Refusal unauthorized() { return {401, "unauthorized", "This device is not known."}; }
     static Refusal insufficientTokens() { return {402, "insufficient_tokens", "You're out of tokens."}; }
@@ -50,16 +64,23 @@ public:
     static Refusal methodNotAllowed() { return {405, "method_not_allowed", "This can't be done here."}; }
     static Refusal tooLarge() { return {413, "payload_too_large", "This recording is too long."}; }
     static Refusal unsupportedAudio() { return {415, "unsupported_audio", "This recording could not be read."}; }
+    static Refusal tooManyRegistrations()
+    {
+        return {429, "too_many_registrations", "Too many new devices. Please try again later."};
+    }
     static Refusal serverError() { return {500, "server_error", "Something went wrong. Please try again."}; }
     static Refusal engineUnavailable()
     {
         return {503, "engine_unavailable", "Transcription is unavailable right now. Please try again later."};
     }
 
+    static Refusal engineBusy() { return {503, "engine_busy", "The server is busy. Please try again in a moment."}; }
+
 private:
     unsigned m_status;
     std::string_view m_code;
     std::string_view m_message;
+    std::optional<std::chrono::seconds> m_retryAfter;
 };
 
 Reply jsonReply(const QJsonObject &document, unsigned status = 200);

@@ -7,8 +7,8 @@
 #include <boost/asio/redirect_error.hpp>
 #include <boost/asio/steady_timer.hpp>
 
-Server::Server(net::ip::tcp::acceptor acceptor, RequestHandler &handler, ServerLimits limits, AccessLog log)
-    : m_acceptor(std::move(acceptor)), m_handler(handler), m_limits(limits), m_log(std::move(log))
+Server::Server(net::ip::tcp::acceptor acceptor, RequestHandler &handler, ServerOptions options, AccessLog log)
+    : m_acceptor(std::move(acceptor)), m_handler(handler), m_options(std::move(options)), m_log(std::move(log))
 {
 }
 
@@ -20,8 +20,18 @@ void Server::start()
 void Server::stop()
 {
     m_stopping = true;
-    boost::system::error_code ignored;
-    m_acceptor.close(ignored);
+    boost::system::error_code error;
+    m_acceptor.cancel(error);
+    // Closing would reset the connections that wait here.
+    m_acceptor.non_blocking(true, error);
+    while (!error) {
+        net::ip::tcp::socket socket(m_acceptor.get_executor());
+        m_acceptor.accept(socket, error);
+        if (!error) {
+            spawn(std::move(socket));
+        }
+    }
+    m_acceptor.close(error);
     for (auto *connection : m_connections) {
         connection->finish();
     }
@@ -31,20 +41,29 @@ net::awaitable<void> Server::accept()
 {
     while (!m_stopping) {
         boost::system::error_code error;
-        auto socket = co_await m_acceptor.async_accept(net::redirect_error(net::use_awaitable, error));
-        if (!error) {
-            net::co_spawn(m_acceptor.get_executor(), serve(std::move(socket)), net::detached);
-        } else if (!m_stopping) {
-            // Such as too many open files: wait for some connection to end instead of spinning.
-            net::steady_timer pause(m_acceptor.get_executor(), std::chrono::milliseconds(100));
+        if (m_connections.size() < m_options.connections) {
+            auto socket = co_await m_acceptor.async_accept(net::redirect_error(net::use_awaitable, error));
+            if (!error) {
+                spawn(std::move(socket));
+                continue;
+            }
+        }
+        if (!m_stopping) {
+            // Too many connections or open files: wait for some connection to end instead of spinning.
+            net::steady_timer pause(m_acceptor.get_executor(), std::chrono::milliseconds(20));
             co_await pause.async_wait(net::redirect_error(net::use_awaitable, error));
         }
     }
 }
 
+void Server::spawn(net::ip::tcp::socket socket)
+{
+    net::co_spawn(m_acceptor.get_executor(), serve(std::move(socket)), net::detached);
+}
+
 net::awaitable<void> Server::serve(net::ip::tcp::socket socket)
 {
-    Connection connection(std::move(socket), m_handler, m_limits, m_log);
+    Connection connection(std::move(socket), m_handler, m_options, m_log);
     const auto place = m_connections.insert(m_connections.end(), &connection);
     if (m_stopping) {
         connection.finish();

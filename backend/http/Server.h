@@ -8,21 +8,32 @@
 #include <chrono>
 #include <functional>
 #include <list>
+#include <string>
+#include <vector>
 
 class Connection;
 
-struct ServerLimits {
+struct ServerOptions {
     std::chrono::milliseconds idle{75'000};   ///< for the first byte of a request
     std::chrono::milliseconds header{15'000}; ///< for the rest of its header
     std::chrono::milliseconds stall{30'000};  ///< of a body or a reply without progress
+    std::chrono::milliseconds body{300'000};  ///< for a whole body
     std::chrono::milliseconds linger{5'000};  ///< for the client to read a reply and close
+    size_t connections = 4096;                ///< at a time; further ones wait to be accepted
+    /// Proxies whose X-Forwarded-For header tells the client's address.
+    std::vector<net::ip::address> trustedProxies = {};
 };
 
+/// Nothing in it is secret: the route stands for the path, which may hold a checkout link's token.
 struct AccessRecord {
+    std::string address;
     std::string method = "-";
     std::string route = "-";
     unsigned status = 0;
-    std::chrono::milliseconds duration{0};
+    size_t received = 0; ///< bytes of the request's body
+    size_t sent = 0;     ///< bytes of the reply's body
+    bool delivered = false;
+    std::chrono::microseconds duration{0}; ///< from the first byte received
 };
 
 /// HTTP/1.1 with keep-alive over one listening socket. Everything happens on the thread that runs the io_context, and
@@ -32,20 +43,24 @@ public:
     using AccessLog = std::function<void(const AccessRecord &)>;
 
     /// `acceptor` listens already. `handler` must outlive the server, and the server the io_context's run.
-    Server(net::ip::tcp::acceptor acceptor, RequestHandler &handler, ServerLimits limits, AccessLog log);
+    Server(net::ip::tcp::acceptor acceptor, RequestHandler &handler, ServerOptions options, AccessLog log);
 
     void start();
 
-    /// Accepts nothing more, closes idle connections, and lets running requests finish. I/O thread.
+    /// Takes what has connected already and nothing more, closes idle connections, and answers the requests that have
+    /// begun. I/O thread.
     void stop();
+
+    size_t connections() const { return m_connections.size(); }
 
 private:
     net::awaitable<void> accept();
+    void spawn(net::ip::tcp::socket socket);
     net::awaitable<void> serve(net::ip::tcp::socket socket);
 
     net::ip::tcp::acceptor m_acceptor;
     RequestHandler &m_handler;
-    ServerLimits m_limits;
+    ServerOptions m_options;
     AccessLog m_log;
     std::list<Connection *> m_connections;
     bool m_stopping = false;

@@ -1,33 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "store/Database.h"
 
+#include "store/Migrations.h"
 #include "support/Secrets.h"
 
 #include <QFile>
 #include <QSqlError>
+#include <QSqlRecord>
+#include <QUrl>
+#include <QUrlQuery>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Each entry brings the tables from its index to the next version. Entries that were released never change.
-const QList<QStringList> &migrations()
-{
-    static const QList<QStringList> all{{
-        QStringLiteral("CREATE TABLE devices (id TEXT PRIMARY KEY, secret_hash BLOB NOT NULL, platform TEXT NOT NULL,"
-                       " created_at BIGINT NOT NULL, balance BIGINT NOT NULL DEFAULT 0 CHECK (balance >= 0),"
-                       " unmetered INTEGER NOT NULL DEFAULT 0)"),
-        QStringLiteral("CREATE TABLE ledger (id INTEGER PRIMARY KEY, device_id TEXT NOT NULL REFERENCES devices (id),"
-                       " amount BIGINT NOT NULL, reason TEXT NOT NULL, created_at BIGINT NOT NULL)"),
-        QStringLiteral("CREATE INDEX ledger_by_device ON ledger (device_id)"),
-        QStringLiteral("CREATE INDEX ledger_by_reason ON ledger (reason, created_at)"),
-        QStringLiteral("CREATE TABLE checkout_links (token_hash BLOB PRIMARY KEY,"
-                       " device_id TEXT NOT NULL REFERENCES devices (id), expires_at BIGINT NOT NULL, used_at BIGINT)"),
-    }};
-    return all;
-}
-
 [[noreturn]] void fail(const char *what, const QSqlError &error)
 {
-    throw StoreError(std::string(what) + ": " + error.text().toStdString());
+    throw StoreError(std::string(what) + ": " + error.text().trimmed().toStdString());
 }
 
 /// SQLite gives its journal files the permissions of the database, so it is enough to create that one privately.
@@ -37,43 +28,142 @@ void createPrivately(const QString &path)
     if (file.exists()) {
         return;
     }
-    if (!file.open(QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner)) {
+    if (!file.open(QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner) && !file.exists()) {
         throw StoreError("the database " + path.toStdString() +
                          " can't be created: " + file.errorString().toStdString());
     }
 }
 
+void addressPostgreSql(QSqlDatabase &connection, const QString &location)
+{
+    const QUrl url(location, QUrl::StrictMode);
+    if (!url.isValid()) {
+        throw StoreError("the database's address is not a valid postgresql:// URI"); // which may hold a password
+    }
+    connection.setHostName(url.host(QUrl::FullyDecoded));
+    connection.setPort(url.port());
+    connection.setUserName(url.userName(QUrl::FullyDecoded));
+    connection.setPassword(url.password(QUrl::FullyDecoded));
+    connection.setDatabaseName(url.path(QUrl::FullyDecoded).mid(1));
+    QStringList options;
+    for (auto [key, value] : QUrlQuery(url).queryItems(QUrl::FullyDecoded)) {
+        value.replace(u"\\"_s, u"\\\\"_s).replace(u"'"_s, u"\\'"_s);
+        options.append(key + u"='"_s + value + u'\'');
+    }
+    connection.setConnectOptions(options.join(u';'));
+}
+
 } // namespace
 
-Database::Database(const QString &path)
-    : m_name(QString::fromLatin1(randomToken(9))),
-      m_connection(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_name))
+bool Database::isPostgreSql(const QString &location)
 {
-    createPrivately(path);
-    m_connection.setDatabaseName(path);
-    m_connection.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=5000"));
-    if (!m_connection.open()) {
-        fail("the database can't be opened", m_connection.lastError());
+    return location.startsWith(u"postgresql://"_s) || location.startsWith(u"postgres://"_s);
+}
+
+Database::Database(QString location)
+    : m_location(std::move(location)),
+      m_postgreSql(isPostgreSql(m_location)),
+      m_name(QString::fromLatin1(randomToken(9))),
+      m_connection(QSqlDatabase::addDatabase(m_postgreSql ? u"QPSQL"_s : u"QSQLITE"_s, m_name))
+{
+    if (m_postgreSql) {
+        addressPostgreSql(m_connection, m_location);
+    } else {
+        createPrivately(m_location);
+        m_connection.setDatabaseName(m_location);
+        m_connection.setConnectOptions(u"QSQLITE_BUSY_TIMEOUT=10000"_s);
     }
-    execute(QStringLiteral("PRAGMA journal_mode = WAL"));
-    execute(QStringLiteral("PRAGMA foreign_keys = ON"));
+    open();
     migrate();
 }
 
 Database::~Database()
 {
+    m_prepared.clear();
     m_connection = QSqlDatabase();
     QSqlDatabase::removeDatabase(m_name);
 }
 
-QSqlQuery Database::execute(const QString &sql, const QVariantList &values)
+void Database::open()
 {
+    m_prepared.clear();
+    if (!m_connection.open()) {
+        fail("the database can't be opened", m_connection.lastError());
+    }
+    if (m_postgreSql) {
+        command(u"SET client_min_messages = warning"_s);
+    } else {
+        command(u"PRAGMA journal_mode = WAL"_s);
+        command(u"PRAGMA foreign_keys = ON"_s);
+    }
+}
+
+void Database::reconnect()
+{
+    if (!m_connection.isOpen()) {
+        open();
+    }
+}
+
+QString Database::inDialect(QString sql) const
+{
+    return sql.replace(u"{blob}"_s, m_postgreSql ? u"BYTEA"_s : u"BLOB"_s)
+        .replace(u"{serial}"_s,
+                 m_postgreSql ? u"BIGINT GENERATED ALWAYS AS IDENTITY PRIMARY KEY"_s : u"INTEGER PRIMARY KEY"_s);
+}
+
+void Database::migrate()
+{
+    Transaction transaction(*this);
+    if (m_postgreSql) {
+        select(u"SELECT pg_advisory_xact_lock(7117551)"_s); // any number that is always the same
+    }
+    command(u"CREATE TABLE IF NOT EXISTS schema_version (version INTEGER NOT NULL)"_s);
+    auto row = first(u"SELECT version FROM schema_version"_s);
+    if (!row) {
+        change(u"INSERT INTO schema_version VALUES (0)"_s);
+    }
+    const auto version = row ? row->at(0).toLongLong() : 0;
+    if (version > migrations().size()) {
+        throw StoreError("the database was made by a newer version of this program");
+    }
+    for (const auto &step : migrations().sliced(version)) {
+        for (const auto &statement : step) {
+            command(inDialect(statement));
+        }
+    }
+    change(u"UPDATE schema_version SET version = ?"_s, {migrations().size()});
+    transaction.commit();
+}
+
+void Database::command(const QString &sql)
+{
+    QSqlQuery query(m_connection);
+    if (!query.exec(sql)) {
+        fail("the database failed", query.lastError());
+    }
+}
+
+QSqlQuery &Database::prepared(const QString &sql)
+{
+    if (const auto known = m_prepared.find(sql); known != m_prepared.end()) {
+        return known->second;
+    }
     QSqlQuery query(m_connection);
     if (!query.prepare(sql)) {
         fail("the database refused a statement", query.lastError());
     }
-    for (const auto &value : values) {
-        query.addBindValue(value);
+    return m_prepared.emplace(sql, std::move(query)).first->second;
+}
+
+QSqlQuery &Database::run(const QString &sql, const Row &values)
+{
+    if (!m_inTransaction) {
+        reconnect();
+    }
+    auto &query = prepared(sql);
+    for (qsizetype i = 0; i < values.size(); ++i) {
+        query.bindValue(static_cast<int>(i), values[i]);
     }
     if (!query.exec()) {
         fail("the database failed", query.lastError());
@@ -81,46 +171,54 @@ QSqlQuery Database::execute(const QString &sql, const QVariantList &values)
     return query;
 }
 
-void Database::migrate()
+QList<Row> Database::select(const QString &sql, const Row &values)
 {
-    Transaction transaction(*this);
-    execute(QStringLiteral("CREATE TABLE IF NOT EXISTS schema_version (version INTEGER NOT NULL)"));
-    qsizetype version = 0;
-    if (auto row = execute(QStringLiteral("SELECT version FROM schema_version")); row.next()) {
-        version = row.value(0).toInt();
-    } else {
-        execute(QStringLiteral("INSERT INTO schema_version VALUES (0)"));
-    }
-    if (version > migrations().size()) {
-        throw StoreError("the database was made by a newer version of this program");
-    }
-    for (const auto &step : migrations().sliced(version)) {
-        for (const auto &statement : step) {
-            execute(statement);
+    auto &query = run(sql, values);
+    const auto columns = query.record().count();
+    QList<Row> rows;
+    while (query.next()) {
+        Row row;
+        for (int column = 0; column < columns; ++column) {
+            row.append(query.value(column));
         }
+        rows.append(row);
     }
-    execute(QStringLiteral("UPDATE schema_version SET version = ?"), {migrations().size()});
-    transaction.commit();
+    query.finish();
+    return rows;
+}
+
+std::optional<Row> Database::first(const QString &sql, const Row &values)
+{
+    auto rows = select(sql, values);
+    return rows.isEmpty() ? std::nullopt : std::optional(std::move(rows.first()));
+}
+
+qint64 Database::change(const QString &sql, const Row &values)
+{
+    auto &query = run(sql, values);
+    const auto rows = query.numRowsAffected();
+    query.finish();
+    return rows;
 }
 
 Transaction::Transaction(Database &database) : m_database(database)
 {
-    if (!m_database.m_connection.transaction()) {
-        fail("a transaction can't begin", m_database.m_connection.lastError());
-    }
+    // What will write takes SQLite's write lock at its beginning: later, it could find that another process was faster.
+    database.reconnect();
+    database.command(database.m_postgreSql ? u"BEGIN ISOLATION LEVEL READ COMMITTED"_s : u"BEGIN IMMEDIATE"_s);
+    database.m_inTransaction = true;
 }
 
 Transaction::~Transaction()
 {
-    if (m_open) {
-        m_database.m_connection.rollback();
+    if (m_database.m_inTransaction) {
+        m_database.m_inTransaction = false;
+        QSqlQuery(m_database.m_connection).exec(u"ROLLBACK"_s);
     }
 }
 
 void Transaction::commit()
 {
-    if (!m_database.m_connection.commit()) {
-        fail("a transaction can't be committed", m_database.m_connection.lastError());
-    }
-    m_open = false;
+    m_database.command(u"COMMIT"_s);
+    m_database.m_inTransaction = false;
 }

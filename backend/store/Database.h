@@ -5,7 +5,9 @@
 #include <QSqlQuery>
 #include <QVariantList>
 
+#include <optional>
 #include <stdexcept>
+#include <unordered_map>
 
 /// The database refused. The text is for the operator.
 class StoreError : public std::runtime_error {
@@ -13,25 +15,47 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// One connection to the SQLite file. All of its use, destruction included, belongs to the thread that made it.
+using Row = QVariantList;
+
+/// One connection to an SQLite file or to a PostgreSQL server; the SQL is the same for both. All of its use,
+/// destruction included, belongs to the thread that made it. A lost connection fails what is running, and is made anew
+/// for what comes next.
 class Database {
 public:
-    /// Opens or creates the file, readable by its owner only, and brings its tables up to date. Throws StoreError.
-    explicit Database(const QString &path);
+    /// `location` begins with "postgresql://" (libpq's URI form; one host, options in the query), or is the path of a
+    /// file that is created when it is missing, readable by its owner only. Brings the tables up to date, also when
+    /// several processes do so at once. Throws StoreError.
+    explicit Database(QString location);
     ~Database();
     Database(const Database &) = delete;
     Database &operator=(const Database &) = delete;
 
-    /// Throws StoreError. Queries must be gone before the database is.
-    QSqlQuery execute(const QString &sql, const QVariantList &values = {});
+    static bool isPostgreSql(const QString &location);
+
+    /// Each "?" of `sql` stands for one of the values. All throw StoreError.
+    QList<Row> select(const QString &sql, const Row &values = {});
+    std::optional<Row> first(const QString &sql, const Row &values = {});
+    /// How many rows were changed.
+    qint64 change(const QString &sql, const Row &values = {});
 
 private:
     friend class Transaction;
 
+    void open();
+    void reconnect();
     void migrate();
+    /// For what the databases can't prepare: transactions, tables, settings.
+    void command(const QString &sql);
+    QSqlQuery &run(const QString &sql, const Row &values);
+    QSqlQuery &prepared(const QString &sql);
+    QString inDialect(QString sql) const;
 
+    QString m_location;
+    bool m_postgreSql;
     QString m_name;
     QSqlDatabase m_connection;
+    std::unordered_map<QString, QSqlQuery> m_prepared;
+    bool m_inTransaction = false;
 };
 
 /// Everything executed during its life happens on commit(), or not at all.
@@ -46,5 +70,4 @@ public:
 
 private:
     Database &m_database;
-    bool m_open = true;
 };

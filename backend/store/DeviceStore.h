@@ -16,8 +16,19 @@ struct Registration {
 
 struct Device {
     QString id;
-    qint64 balance = 0;
+    qint64 balance = 0; ///< as Ledger::balance() tells it
     bool unmetered = false;
+};
+
+/// What the operator sees of a device.
+struct DeviceRecord {
+    QString id;
+    QString platform;
+    qint64 createdAt = 0;
+    qint64 balance = 0; ///< the sum of its ledger entries
+    qint64 held = 0;    ///< of that, for transcriptions under way
+    bool unmetered = false;
+    bool revoked = false;
 };
 
 /// The devices that may use this server. No identifier and no secret holds a ".".
@@ -31,7 +42,17 @@ public:
     /// The device of "<deviceId>.<secret>", or nothing; what is wrong takes no different time to find out.
     std::optional<Device> authenticate(const QByteArray &credential);
 
+    /// Up to `most` devices in the order of their registration, after the device `after` (empty: from the first).
+    QList<DeviceRecord> list(const QString &after, int most);
+    std::optional<DeviceRecord> find(const QString &id);
+
+    /// Each is false when there is no such device.
+    bool setUnmetered(const QString &id, bool unmetered);
+    bool revoke(const QString &id); ///< its credential is refused from now on; there is no way back
+
 private:
+    bool takeFromPool(qint64 now);
+
     Database &m_database;
     Ledger &m_ledger;
     GrantPolicy m_policy;

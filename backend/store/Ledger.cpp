@@ -1,67 +1,145 @@
 // SPDX-License-Identifier: MIT
 #include "store/Ledger.h"
 
+#include "support/Secrets.h"
+
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 Ledger::Ledger(Database &database, WallClock clock) : m_database(database), m_clock(std::move(clock)) {}
 
 qint64 Ledger::balance(const QString &deviceId)
 {
-    auto row = m_database.execute(QStringLiteral("SELECT balance FROM devices WHERE id = ?"), {deviceId});
-    if (!row.next()) {
+    const auto row = m_database.first(u"SELECT balance - CAST(COALESCE((SELECT SUM(amount) FROM holds"
+                                      " WHERE device_id = devices.id AND delivering = 1 AND expires_at > ?), 0)"
+                                      " AS BIGINT) FROM devices WHERE id = ?"_s,
+                                      {m_clock(), deviceId});
+    if (!row) {
         throw StoreError("there is no such device");
     }
-    return row.value(0).toLongLong();
+    return row->at(0).toLongLong();
 }
 
-std::optional<Ledger::Charge> Ledger::charge(const QString &deviceId, qint64 tokens)
+std::optional<Ledger::Hold> Ledger::hold(const QString &deviceId, qint64 tokens)
 {
     Transaction transaction(m_database);
-    // The condition and the subtraction are one statement, so simultaneous charges can't both pass it.
-    const auto updated = m_database.execute(QStringLiteral("UPDATE devices SET balance = balance - ?"
-                                                           " WHERE id = ? AND unmetered = 0 AND balance >= ?"),
-                                            {tokens, deviceId, tokens});
-    Charge charge;
-    if (updated.numRowsAffected() == 1) {
-        record(deviceId, -tokens, QStringLiteral("transcription"));
-        charge.taken = tokens;
+    lapse(deviceId);
+    Hold hold{{}, deviceId, tokens};
+    // The condition and the addition are one statement, so simultaneous holds can't both pass it.
+    if (m_database.change(u"UPDATE devices SET held = held + ?"
+                          " WHERE id = ? AND unmetered = 0 AND balance - held >= ?"_s,
+                          {tokens, deviceId, tokens}) == 1) {
+        hold.id = QString::fromLatin1(randomToken(16));
+        m_database.change(u"INSERT INTO holds (id, device_id, amount, expires_at) VALUES (?, ?, ?, ?)"_s,
+                          {hold.id, deviceId, tokens, m_clock() + holdLifetime});
     } else {
-        auto row = m_database.execute(QStringLiteral("SELECT unmetered FROM devices WHERE id = ?"), {deviceId});
-        if (!row.next() || !row.value(0).toBool()) {
+        const auto row = m_database.first(u"SELECT unmetered FROM devices WHERE id = ?"_s, {deviceId});
+        if (!row || !row->at(0).toBool()) {
             return std::nullopt;
         }
     }
-    charge.balance = balance(deviceId);
     transaction.commit();
-    return charge;
+    return hold;
 }
 
-void Ledger::refund(const QString &deviceId, const Charge &charge)
+std::optional<qint64> Ledger::deliver(Hold &hold)
 {
-    if (charge.taken == 0) {
+    const auto mark = [&] {
+        return m_database.change(u"UPDATE holds SET delivering = 1, expires_at = ? WHERE id = ?"_s,
+                                 {m_clock() + holdLifetime, hold.id}) == 1;
+    };
+    if (!hold.id.isEmpty() && !mark()) {
+        auto another = this->hold(hold.deviceId, hold.amount);
+        if (!another) {
+            return std::nullopt;
+        }
+        hold = *another;
+        mark();
+    }
+    return balance(hold.deviceId);
+}
+
+void Ledger::settle(const Hold &hold)
+{
+    if (hold.id.isEmpty()) {
         return;
     }
     Transaction transaction(m_database);
-    credit(deviceId, charge.taken, QStringLiteral("refund"));
+    // Whoever removes the hold may take its tokens, so they are taken once.
+    if (m_database.change(u"DELETE FROM holds WHERE id = ?"_s, {hold.id}) == 1) {
+        m_database.change(u"UPDATE devices SET balance = balance - ?, held = held - ? WHERE id = ?"_s,
+                          {hold.amount, hold.amount, hold.deviceId});
+        record(hold.deviceId, -hold.amount, u"transcription"_s, {});
+    }
     transaction.commit();
 }
 
-qint64 Ledger::grantedSince(qint64 since)
+void Ledger::release(const Hold &hold)
 {
-    auto row = m_database.execute(
-        QStringLiteral("SELECT COALESCE(SUM(amount), 0) FROM ledger WHERE reason = 'grant' AND created_at >= ?"),
-        {since});
-    return row.next() ? row.value(0).toLongLong() : 0;
+    if (hold.id.isEmpty()) {
+        return;
+    }
+    Transaction transaction(m_database);
+    if (m_database.change(u"DELETE FROM holds WHERE id = ?"_s, {hold.id}) == 1) {
+        m_database.change(u"UPDATE devices SET held = held - ? WHERE id = ?"_s, {hold.amount, hold.deviceId});
+    }
+    transaction.commit();
 }
 
-void Ledger::credit(const QString &deviceId, qint64 tokens, const QString &reason)
+void Ledger::lapse(const QString &deviceId)
 {
-    m_database.execute(QStringLiteral("UPDATE devices SET balance = balance + ? WHERE id = ?"), {tokens, deviceId});
-    record(deviceId, tokens, reason);
+    const auto lapsed = m_database.select(
+        u"DELETE FROM holds WHERE device_id = ? AND expires_at <= ? RETURNING amount"_s, {deviceId, m_clock()});
+    qint64 sum = 0;
+    for (const auto &row : lapsed) {
+        sum += row[0].toLongLong();
+    }
+    if (sum > 0) {
+        m_database.change(u"UPDATE devices SET held = held - ? WHERE id = ?"_s, {sum, deviceId});
+    }
 }
 
-void Ledger::record(const QString &deviceId, qint64 amount, const QString &reason)
+bool Ledger::credit(const QString &deviceId, qint64 tokens, const QString &reason, const QString &reference)
 {
-    m_database.execute(QStringLiteral("INSERT INTO ledger (device_id, amount, reason, created_at) VALUES (?, ?, ?, ?)"),
-                       {deviceId, amount, reason, m_clock()});
+    if (m_database.change(u"UPDATE devices SET balance = balance + ? WHERE id = ? AND balance - held + ? >= 0"_s,
+                          {tokens, deviceId, tokens}) != 1) {
+        return false;
+    }
+    record(deviceId, tokens, reason, reference);
+    return true;
+}
+
+QList<LedgerEntry> Ledger::entries(const QString &deviceId, qint64 after, int most)
+{
+    auto sql = u"SELECT id, device_id, amount, reason, reference, created_at FROM ledger WHERE id > ?"_s;
+    Row values{after};
+    if (!deviceId.isEmpty()) {
+        sql += u" AND device_id = ?"_s;
+        values.append(deviceId);
+    }
+    values.append(most);
+    QList<LedgerEntry> entries;
+    for (const auto &row : m_database.select(sql + u" ORDER BY id LIMIT ?"_s, values)) {
+        entries.append({row[0].toLongLong(), row[1].toString(), row[2].toLongLong(), row[3].toString(),
+                        row[4].toString(), row[5].toLongLong()});
+    }
+    return entries;
+}
+
+QStringList Ledger::unexplained()
+{
+    QStringList ids;
+    for (const auto &row : m_database.select(u"SELECT id FROM devices WHERE balance <>"
+                                             " (SELECT COALESCE(SUM(amount), 0) FROM ledger"
+                                             " WHERE device_id = devices.id) ORDER BY id"_s)) {
+        ids.append(row[0].toString());
+    }
+    return ids;
+}
+
+void Ledger::record(const QString &deviceId, qint64 amount, const QString &reason, const QString &reference)
+{
+    m_database.change(u"INSERT INTO ledger (device_id, amount, reason, reference, created_at) VALUES (?, ?, ?, ?, ?)"_s,
+                      {deviceId, amount, reason, reference.isNull() ? u""_s : reference, m_clock()});
 }

@@ -2,40 +2,62 @@
 #pragma once
 
 #include "store/Database.h"
+#include "support/WallClock.h"
 
-#include <functional>
-#include <optional>
-
-/// Seconds since the epoch.
-using WallClock = std::function<qint64()>;
+/// One change to a balance, and why: "grant" (free tokens), "transcription", "purchase" or "operator".
+struct LedgerEntry {
+    qint64 id = 0;
+    QString deviceId;
+    qint64 amount = 0;
+    QString reason;
+    QString reference; ///< the purchase, or the operator's note
+    qint64 createdAt = 0;
+};
 
 /// Token balances. A device's balance is the sum of its ledger entries at any time, and never below zero.
+///
+/// A transcription is paid in three steps: hold() sets its price aside before the engine runs, so that requests of one
+/// device at the same moment can't spend the same tokens; deliver() says that the reply is about to be sent; settle()
+/// takes the tokens when it has been, or release() lets go of them. A process that dies in between has taken nothing:
+/// its holds lapse after `holdLifetime`.
 class Ledger {
 public:
-    struct Charge {
-        qint64 balance = 0; ///< afterwards
-        qint64 taken = 0;   ///< 0 for a device that is not metered
+    /// In seconds; longer than a client waits for a transcript.
+    static constexpr qint64 holdLifetime = 300;
+
+    struct Hold {
+        QString id; ///< empty for a device that is not metered
+        QString deviceId;
+        qint64 amount = 0;
     };
 
     Ledger(Database &database, WallClock clock);
 
-    /// The device must exist.
+    /// What the device can see of its balance: without what is being delivered. The device must exist.
     qint64 balance(const QString &deviceId);
 
-    /// Takes `tokens` in one transaction, or returns nothing when the balance does not cover them.
-    std::optional<Charge> charge(const QString &deviceId, qint64 tokens);
+    /// Nothing when the balance, less what is on hold already, does not cover `tokens`.
+    std::optional<Hold> hold(const QString &deviceId, qint64 tokens);
 
-    /// Gives back what a charge took for a transcript that did not reach its device.
-    void refund(const QString &deviceId, const Charge &charge);
+    /// The balance as it is after this hold, or nothing when the hold has lapsed and the balance does not cover
+    /// another.
+    std::optional<qint64> deliver(Hold &hold);
+    void settle(const Hold &hold);
+    void release(const Hold &hold);
 
-    /// The sum of the free grants since `since`.
-    qint64 grantedSince(qint64 since);
+    /// Adds to the balance inside the caller's transaction. `tokens` may be negative. False, without any effect, when
+    /// the balance would not cover what is on hold, or there is no such device.
+    bool credit(const QString &deviceId, qint64 tokens, const QString &reason, const QString &reference = {});
 
-    /// Adds to the balance inside the caller's transaction; `reason` is "grant", "purchase" or "refund".
-    void credit(const QString &deviceId, qint64 tokens, const QString &reason);
+    /// Of one device or of all, the oldest first, after the entry `after`.
+    QList<LedgerEntry> entries(const QString &deviceId, qint64 after, int most);
+
+    /// The devices whose balance is not what their entries add up to.
+    QStringList unexplained();
 
 private:
-    void record(const QString &deviceId, qint64 amount, const QString &reason);
+    void lapse(const QString &deviceId);
+    void record(const QString &deviceId, qint64 amount, const QString &reason, const QString &reference);
 
     Database &m_database;
     WallClock m_clock;

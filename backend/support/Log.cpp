@@ -3,10 +3,16 @@
 
 #include <iostream>
 #include <mutex>
+#include <string>
 
 void logLine(std::string_view line)
 {
+    writeLine("quillo-backend: " + std::string(line));
+}
+
+void writeLine(std::string_view line)
+{
     static std::mutex mutex;
     const std::lock_guard lock(mutex);
-    std::cerr << "quillo-backend: " << line << std::endl;
+    std::cerr << line << std::endl;
 }

@@ -5,3 +5,6 @@
 
 /// Writes one line for the operator to the standard error stream; any thread. Callers keep secrets, audio and text out.
 void logLine(std::string_view line);
+
+/// The same without the program's name before it.
+void writeLine(std::string_view line);

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "http/Api.h"
+#include "http/AccessLog.h"
 #include "support/Audio.h"
 #include "support/HttpClient.h"
 #include "support/RunningServer.h"
+#include "support/TestDatabase.h"
 
 #include <gmock/gmock.h>
 
@@ -11,6 +13,7 @@
 #include <latch>
 
 using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -36,33 +39,35 @@ public:
     std::latch *together = nullptr;
 };
 
-class ApiTest : public testing::Test {
+struct Start {
+    qint64 freeTokens = 3600;
+    ApiOptions api = {};
+    ServerOptions server = {};
+    int places = 16;
+};
+
+class ApiTest : public testing::TestWithParam<DatabaseKind> {
 protected:
-    void start(qint64 freeTokens = 3600, ApiOptions options = {}, ServerLimits limits = {})
+    void start(Start start = {})
     {
-        server = std::make_unique<RunningServer>(limits);
-        store = std::make_unique<StoreThread>(database(), GrantPolicy{.freeTokens = freeTokens},
-                                              [] { return 1'700'000'000; });
+        server = std::make_unique<RunningServer>(start.server);
+        store = std::make_unique<StoreThreads>(database.location(), GrantPolicy{.freeTokens = start.freeTokens}, clock);
         auto owned = std::make_unique<StubEngine>();
         engine = owned.get();
-        transcriber = std::make_unique<Transcriber>(std::move(owned), 60s);
-        options.publicUrl = server->url();
-        api = std::make_unique<Api>(options, *store, *transcriber);
-        server->start(*api);
+        transcriber = std::make_unique<Transcriber>(std::move(owned), 60s, start.places);
+        start.api.checkout.publicUrl = server->url();
+        api = std::make_unique<Api>(start.api, *store, *transcriber, clock);
+        server->start(*api, [this](const AccessRecord &record) {
+            api->metrics().answered(record);
+            log += accessLine(record) + '\n';
+        });
     }
 
     void TearDown() override { server->stop(); }
 
-    QString database() const { return folder.filePath(QStringLiteral("backend.db")); }
     HttpClient connect() const { return HttpClient(server->port()); }
 
-    /// Registers a device; its authorization header.
-    std::string registered() const
-    {
-        const auto device = connect().send("POST", "/v1/devices", {}, R"({"platform":"macos"})").json();
-        return "Authorization: Bearer " + device[QLatin1String("deviceId")].toString().toStdString() + "." +
-               device[QLatin1String("secret")].toString().toStdString() + "\r\n";
-    }
+    std::string registered() const { return registeredAt(server->port()); }
 
     HttpAnswer transcribe(const std::string &authorization, const std::string &file) const
     {
@@ -74,19 +79,38 @@ protected:
         return connect().send("GET", "/v1/balance", authorization).balance();
     }
 
-    QTemporaryDir folder;
+    /// What an upload sends, up to its last byte.
+    static std::string upload(const std::string &authorization, const std::string &file)
+    {
+        const auto body = multipart(file);
+        return "POST /v1/transcribe HTTP/1.1\r\nHost: test\r\n" + authorization + std::string(multipartHeader) +
+               "Content-Length: " + std::to_string(body.size()) + "\r\n\r\n" + body;
+    }
+
+    void awaitEngine() const
+    {
+        while (engine->runs == 0) {
+            std::this_thread::yield();
+        }
+    }
+
+    TestDatabase database{GetParam()};
+    WallClock clock = [] { return 1'700'000'000; };
+    std::string log;
     std::unique_ptr<RunningServer> server; // stopped before what it uses goes, gone after the threads that resume on it
-    std::unique_ptr<StoreThread> store;
+    std::unique_ptr<StoreThreads> store;
     StubEngine *engine = nullptr;
     std::unique_ptr<Transcriber> transcriber;
     std::unique_ptr<Api> api;
 };
 
+INSTANTIATE_ON_BOTH_DATABASES(ApiTest);
+
 } // namespace
 
-TEST_F(ApiTest, RegistersATranscribingAndChargedDevice)
+TEST_P(ApiTest, RegistersATranscribingAndChargedDevice)
 {
-    start(10);
+    start({.freeTokens = 10});
     const auto answer =
         connect().send("POST", "/v1/devices", "Content-Type: application/json\r\n", R"({"platform":"macos"})");
     EXPECT_EQ(answer.status, 200);
@@ -99,7 +123,7 @@ TEST_F(ApiTest, RegistersATranscribingAndChargedDevice)
     EXPECT_EQ(balance(device), 8);
 }
 
-TEST_F(ApiTest, RefusesEveryWrongCredentialAlike)
+TEST_P(ApiTest, RefusesEveryWrongCredentialAlike)
 {
     start();
     const auto device = registered();
@@ -116,9 +140,9 @@ TEST_F(ApiTest, RefusesEveryWrongCredentialAlike)
     }
 }
 
-TEST_F(ApiTest, RefusesARecordingThatTheBalanceDoesNotCoverBeforeTheEngineRuns)
+TEST_P(ApiTest, RefusesARecordingThatTheBalanceDoesNotCoverBeforeTheEngineRuns)
 {
-    start(1);
+    start({.freeTokens = 1});
     const auto device = registered();
     const auto answer = transcribe(device, tone());
     EXPECT_EQ(answer.status, 402);
@@ -127,9 +151,9 @@ TEST_F(ApiTest, RefusesARecordingThatTheBalanceDoesNotCoverBeforeTheEngineRuns)
     EXPECT_EQ(balance(device), 1);
 }
 
-TEST_F(ApiTest, TakesNothingForWhatBringsNoText)
+TEST_P(ApiTest, TakesNothingForWhatBringsNoText)
 {
-    start(10);
+    start({.freeTokens = 10});
     const auto device = registered();
     EXPECT_EQ(transcribe(device, silence()).body, R"({"balance":10,"text":""})");
     EXPECT_EQ(engine->runs, 0);
@@ -140,66 +164,62 @@ TEST_F(ApiTest, TakesNothingForWhatBringsNoText)
     EXPECT_EQ(balance(device), 10);
 }
 
-TEST_F(ApiTest, NeverOverdrawsWithTwoRequestsAtOnce)
+TEST_P(ApiTest, NeverOverdrawsWithTwoRequestsAtOnce)
 {
-    start(3); // one recording costs 2
+    start({.freeTokens = 3}); // one recording costs 2
     const auto device = registered();
-    std::latch both(2);
-    engine->together = &both;
-    auto first = std::async(std::launch::async, [&] { return transcribe(device, tone()).status; });
-    const auto second = transcribe(device, tone()).status;
-    EXPECT_THAT((std::vector{first.get(), second}), testing::UnorderedElementsAre(200, 402));
-    EXPECT_EQ(engine->runs, 2);
+    std::latch entered(2);
+    engine->together = &entered;
+    auto first = connect();
+    first.write(upload(device, tone()));
+    awaitEngine();
+    EXPECT_EQ(transcribe(device, tone()).status, 402); // while the other one runs
+    entered.arrive_and_wait();
+    EXPECT_EQ(first.receive().balance(), 1);
     EXPECT_EQ(balance(device), 1);
 }
 
-TEST_F(ApiTest, TakesNothingFromAClientThatWentAway)
+TEST_P(ApiTest, TakesNothingFromAClientThatWentAway)
 {
-    start(10);
+    start({.freeTokens = 10});
     const auto device = registered();
     std::latch entered(2);
     engine->together = &entered;
     auto client = connect();
-    const auto body = multipart(tone());
-    client.write("POST /v1/transcribe HTTP/1.1\r\nHost: test\r\n" + device + std::string(multipartHeader) +
-                 "Content-Length: " + std::to_string(body.size()) + "\r\n\r\n" + body);
-    while (engine->runs == 0) {
-        std::this_thread::yield();
-    }
+    client.write(upload(device, tone()));
+    awaitEngine();
     client.close();
     entered.arrive_and_wait();
     server->stop(); // returns when the request has been dealt with
-    Store kept(database(), {}, [] { return 0; });
-    auto row = kept.database.execute(QStringLiteral("SELECT balance FROM devices"));
-    ASSERT_TRUE(row.next());
-    EXPECT_EQ(row.value(0).toInt(), 10);
+    Store kept(database.location(), {}, clock);
+    const auto left = kept.devices.list({}, 1).first();
+    EXPECT_EQ(left.balance, 10);
+    EXPECT_EQ(left.held, 0);
 }
 
-TEST_F(ApiTest, SellsTokensOnceOverAOneTimePage)
+TEST_P(ApiTest, AnswersThatItIsBusyWhenTheEngineHasEnough)
 {
-    start(0);
+    start({.freeTokens = 100, .places = 1});
     const auto device = registered();
-    const auto url = connect().send("POST", "/v1/checkout/link", device).json()[QLatin1String("url")].toString();
-    const auto prefix = QString::fromStdString(server->url());
-    ASSERT_TRUE(url.startsWith(prefix + QStringLiteral("/checkout/")));
-    const auto path = url.mid(prefix.size()).toStdString();
-
-    EXPECT_EQ(connect().send("POST", path, {}, "pack=gigantic").error(), "bad_request");
-    const auto page = connect().send("GET", path);
-    EXPECT_EQ(page.status, 200);
-    EXPECT_THAT(page.contentType, testing::StartsWith("text/html"));
-    EXPECT_THAT(page.body, testing::HasSubstr("name=\"pack\" value=\"small\""));
-    EXPECT_EQ(balance(device), 0);
-    EXPECT_THAT(connect().send("POST", path, {}, "pack=small").body, testing::HasSubstr("The balance is now 3,600"));
-    EXPECT_EQ(connect().send("POST", path, {}, "pack=small").status, 410);
-    EXPECT_EQ(connect().send("GET", path).status, 410);
-    EXPECT_EQ(connect().send("GET", "/checkout/unknown").status, 410);
-    EXPECT_EQ(balance(device), 3600);
+    std::latch entered(2);
+    engine->together = &entered;
+    auto first = connect();
+    first.write(upload(device, tone()));
+    awaitEngine();
+    const auto refused = transcribe(device, tone());
+    EXPECT_EQ(refused.status, 503);
+    EXPECT_EQ(refused.error(), "engine_busy");
+    EXPECT_GT(std::stoi(refused.retryAfter), 0);
+    entered.arrive_and_wait();
+    EXPECT_EQ(first.receive().balance(), 98);
+    engine->together = nullptr;
+    EXPECT_EQ(transcribe(device, tone()).balance(), 96);
 }
 
-TEST_F(ApiTest, NamesWhatIsWrongWithARequest)
+TEST_P(ApiTest, NamesWhatIsWrongWithARequest)
 {
-    start(10, {.publicUrl = {}, .tokensPerSecond = 1, .largestUpload = 100'000, .manualCheckout = false});
+    start({.api = {.transcription = {.largestUpload = 100'000},
+                   .checkout = {.provider = CheckoutOptions::Provider::None}}});
     const auto device = registered();
     const auto upload = device + std::string(multipartHeader);
     struct Case {
@@ -227,7 +247,7 @@ TEST_F(ApiTest, NamesWhatIsWrongWithARequest)
     }
 }
 
-TEST_F(ApiTest, RefusesALargeBodyBeforeItIsSent)
+TEST_P(ApiTest, RefusesALargeBodyBeforeItIsSent)
 {
     start();
     auto announced = connect();
@@ -245,9 +265,9 @@ TEST_F(ApiTest, RefusesALargeBodyBeforeItIsSent)
               413);
 }
 
-TEST_F(ApiTest, KeepsAConnectionUntilARequestIsMalformed)
+TEST_P(ApiTest, KeepsAConnectionUntilARequestIsMalformed)
 {
-    start(10);
+    start({.freeTokens = 10});
     const auto device = registered();
     auto client = connect();
     EXPECT_EQ(client.send("GET", "/v1/balance", device).balance(), 10);
@@ -259,9 +279,9 @@ TEST_F(ApiTest, KeepsAConnectionUntilARequestIsMalformed)
     EXPECT_TRUE(client.isClosedByServer());
 }
 
-TEST_F(ApiTest, ClosesConnectionsThatAreIdleOrTooSlow)
+TEST_P(ApiTest, ClosesConnectionsThatAreIdleOrTooSlow)
 {
-    start(10, {}, {.idle = 20ms, .header = 20ms, .stall = 20ms});
+    start({.server = {.idle = 20ms, .header = 20ms, .stall = 20ms}});
     for (const auto *const beginning : {"", "GET /v1/bal", "POST /v1/devices HTTP/1.1\r\nContent-Length: 9\r\n\r\n{"}) {
         auto client = connect();
         client.write(beginning);
@@ -269,20 +289,62 @@ TEST_F(ApiTest, ClosesConnectionsThatAreIdleOrTooSlow)
     }
 }
 
-TEST_F(ApiTest, FinishesTheRunningRequestWhenItStops)
+TEST_P(ApiTest, LimitsTheRegistrationsOfAnAddressBehindATrustedProxyToo)
 {
-    start(10);
+    start({.api = {.registrationsPerHour = 2},
+           .server = {.trustedProxies = {boost::asio::ip::make_address("127.0.0.1")}}});
+    const auto attempt = [&](const std::string &forwarded) {
+        return connect().send("POST", "/v1/devices", "X-Forwarded-For: " + forwarded + "\r\n", R"({"platform":"x"})");
+    };
+    EXPECT_EQ(attempt("192.0.2.9, 192.0.2.1").status, 200);
+    EXPECT_EQ(attempt("192.0.2.1").status, 200);
+    const auto refused = attempt("192.0.2.8, 192.0.2.1"); // what the client claims does not count
+    EXPECT_EQ(refused.status, 429);
+    EXPECT_EQ(refused.error(), "too_many_registrations");
+    EXPECT_EQ(refused.retryAfter, "1800");
+    EXPECT_EQ(attempt("192.0.2.2").status, 200);
+    EXPECT_EQ(attempt("2001:db8::1").status, 200);
+    EXPECT_EQ(attempt("2001:db8::2").status, 200);
+    EXPECT_EQ(attempt("2001:db8::3").status, 429);
+    EXPECT_EQ(attempt("2001:db8:0:1::1").status, 200);
+}
+
+TEST_P(ApiTest, TellsTheOperatorEnoughAndNoSecret)
+{
+    start();
+    const auto device = registered();
+    transcribe(device, tone());
+    const auto url = connect().send("POST", "/v1/checkout/link", device).json()[u"url"_s].toString().toStdString();
+    const auto link = url.substr(server->url().size());
+    connect().send("GET", link);
+    EXPECT_EQ(connect().send("GET", "/healthz").body, R"({"database":"ok","engine":"ok","status":"ok"})");
+    const auto metrics = connect().send("GET", "/metrics").body;
+    server->stop(); // so that the log is complete
+    EXPECT_THAT(metrics, testing::HasSubstr(R"(route="/v1/transcribe",status="200"} 1)"));
+    EXPECT_THAT(metrics, testing::HasSubstr("quillo_tokens_charged_total 2"));
+    EXPECT_THAT(log, testing::HasSubstr(R"("address":"127.0.0.1","delivered":true,"method":"POST")"));
+    EXPECT_THAT(log, testing::HasSubstr(R"("route":"/checkout/*")"));
+    const auto credential = device.substr(device.find("Bearer ") + 7);
+    for (const auto &secret : {credential.substr(0, 22), std::string("hello"), link.substr(10)}) {
+        EXPECT_THAT(log + metrics, testing::Not(testing::HasSubstr(secret)));
+    }
+}
+
+TEST_P(ApiTest, FinishesTheRunningRequestsWhenItStops)
+{
+    start({.freeTokens = 10});
     const auto device = registered();
     auto idle = connect();
     EXPECT_EQ(idle.send("GET", "/v1/balance", device).status, 200);
+    auto beginning = connect();
+    beginning.write("GET /v1/b");
     std::latch entered(2);
     engine->together = &entered;
     auto running = std::async(std::launch::async, [&] { return transcribe(device, tone()).balance(); });
-    while (engine->runs == 0) {
-        std::this_thread::yield();
-    }
+    awaitEngine();
     auto stopped = std::async(std::launch::async, [&] { server->stop(); });
     EXPECT_TRUE(idle.isClosedByServer());
+    EXPECT_EQ(beginning.sendRaw("alance HTTP/1.1\r\nHost: test\r\n" + device + "\r\n").balance(), 10);
     entered.arrive_and_wait();
     EXPECT_EQ(running.get(), 8);
     stopped.get();

@@ -6,6 +6,7 @@
 #include <cmath>
 
 using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -59,11 +60,28 @@ TEST(AudioDecoderTest, StopsAtTheLimit)
     EXPECT_EQ(failure(tone(), 1s), AudioError::Kind::TooLong);
 }
 
-TEST(SpeechGateTest, HoldsBackSilenceAndClicks)
+TEST(SpeechGateTest, HoldsBackSilenceClicksAndSteadyNoise)
 {
-    EXPECT_FALSE(mayHoldSpeech({}));
-    EXPECT_FALSE(mayHoldSpeech(decodeAudio(silence(), 60s)));
-    EXPECT_FALSE(mayHoldSpeech(waves(60, speechRate)));         // a microphone's noise and its constant offset
-    EXPECT_FALSE(mayHoldSpeech(waves(20000, speechRate / 20))); // a click of 50 ms
-    EXPECT_TRUE(mayHoldSpeech(waves(600, speechRate / 2)));     // a soft voice
+    const auto passes = [](const Samples &samples) {
+        SpeechGate gate;
+        gate.add(samples);
+        return gate.mayHoldSpeech();
+    };
+    EXPECT_FALSE(passes({}));
+    EXPECT_FALSE(passes(decodeAudio(silence(), 60s)));
+    EXPECT_FALSE(passes(waves(60, speechRate)));         // a microphone's noise and its constant offset
+    EXPECT_FALSE(passes(waves(20000, speechRate / 20))); // a click of 50 ms
+    for (const auto *const noise :
+         {"anoisesrc=color=white:duration=5:amplitude=0.3:seed=1",
+          "anoisesrc=color=pink:duration=5:amplitude=0.3:seed=1",
+          "anoisesrc=color=brown:duration=5:amplitude=0.3:seed=1", "sine=frequency=50:duration=3"}) {
+        EXPECT_FALSE(passes(decodeAudio(recordingOf(generated(noise)), 60s))) << noise;
+    }
+    auto soft = waves(10, speechRate);
+    const auto voice = waves(600, speechRate / 2);
+    soft.insert(soft.end(), voice.begin(), voice.end());
+    EXPECT_TRUE(passes(soft));
+    const QStringList spoken{u"-f"_s,  u"s16le"_s, u"-ar"_s, u"16000"_s,
+                             u"-ac"_s, u"1"_s,     u"-i"_s,  u"/usr/share/pocketsphinx/test/data/goforward.raw"_s};
+    EXPECT_TRUE(passes(decodeAudio(recordingOf(spoken), 60s)));
 }

@@ -21,8 +21,9 @@ public:
             std::this_thread::yield();
         }
         Reply reply;
-        reply.undelivered = [this]() -> net::awaitable<void> {
-            ++undelivered;
+        reply.sent = [this](bool delivered) -> net::awaitable<void> {
+            undelivered += delivered ? 0 : 1;
+            ++sent;
             co_return;
         };
         co_return reply;
@@ -30,6 +31,7 @@ public:
 
     std::promise<void> entered;
     int undelivered = 0;
+    int sent = 0;
 };
 
 } // namespace
@@ -45,4 +47,5 @@ TEST(ServerTest, TellsOnceThatAReplyCouldNotBeSent)
     client.reset();
     server.stop();
     EXPECT_EQ(handler.undelivered, 1);
+    EXPECT_EQ(handler.sent, 1);
 }

@@ -1,17 +1,22 @@
 // SPDX-License-Identifier: MIT
-#include "store/StoreThread.h"
+#include "store/StoreThreads.h"
+#include "support/TestDatabase.h"
 
 #include <QDir>
-#include <QTemporaryDir>
 #include <gmock/gmock.h>
+
+#include <barrier>
+#include <thread>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-class StoreTest : public testing::Test {
+class StoreTest : public testing::TestWithParam<DatabaseKind> {
 protected:
-    std::unique_ptr<Store> open(GrantPolicy policy = {})
+    std::unique_ptr<Store> open(GrantPolicy policy = {}) const
     {
-        return std::make_unique<Store>(folder.filePath(QStringLiteral("backend.db")), policy, [this] { return now; });
+        return std::make_unique<Store>(database.location(), policy, [this] { return now; });
     }
 
     static QByteArray credential(const Registration &device)
@@ -19,28 +24,22 @@ protected:
         return (device.deviceId + QLatin1Char('.') + device.secret).toLatin1();
     }
 
-    static void expectExplained(Store &store, const QString &deviceId)
-    {
-        auto row =
-            store.database.execute(QStringLiteral("SELECT SUM(amount) FROM ledger WHERE device_id = ?"), {deviceId});
-        ASSERT_TRUE(row.next());
-        EXPECT_EQ(row.value(0).toLongLong(), store.ledger.balance(deviceId));
-    }
-
-    QTemporaryDir folder;
+    TestDatabase database{GetParam()};
     qint64 now = 1'700'000'000;
 };
 
+INSTANTIATE_ON_BOTH_DATABASES(StoreTest);
+
 } // namespace
 
-TEST_F(StoreTest, KnowsADeviceByItsWholeCredentialOnly)
+TEST_P(StoreTest, KnowsADeviceByItsWholeCredentialUntilItIsRevoked)
 {
-    const auto store = open();
-    const auto device = store->devices.add(QStringLiteral("linux"));
-    const auto other = store->devices.add(QStringLiteral("linux"));
+    const auto device = open()->devices.add(u"linux"_s);
+    const auto store = open(); // as after a restart
+    const auto other = store->devices.add(u"linux"_s);
     const auto good = credential(device);
     ASSERT_TRUE(store->devices.authenticate(good));
-    EXPECT_EQ(store->devices.authenticate(good)->id, device.deviceId);
+    EXPECT_EQ(store->devices.authenticate(good)->balance, 3600);
     EXPECT_EQ(good.count('.'), 1);
     const QList<QByteArray> wrong{QByteArray(),
                                   QByteArray("."),
@@ -53,84 +52,172 @@ TEST_F(StoreTest, KnowsADeviceByItsWholeCredentialOnly)
     for (const auto &attempt : wrong) {
         EXPECT_FALSE(store->devices.authenticate(attempt)) << attempt.toStdString();
     }
+    EXPECT_TRUE(store->devices.revoke(device.deviceId));
+    EXPECT_FALSE(store->devices.authenticate(good));
+    EXPECT_FALSE(store->devices.revoke(u"nobody"_s));
 }
 
-TEST_F(StoreTest, KeepsNoSecretInItsFiles)
+TEST_P(StoreTest, KeepsNoSecret)
 {
     const auto store = open();
-    const auto device = store->devices.add(QStringLiteral("linux"));
-    const auto link = store->checkoutLinks.add(device.deviceId);
+    const auto device = store->devices.add(u"linux"_s);
+    const auto link = store->checkout.addLink(device.deviceId);
     QByteArray kept;
-    for (const auto &entry : QDir(folder.path()).entryInfoList(QDir::Files)) {
+    if (GetParam() == DatabaseKind::PostgreSql) {
+        for (const auto *const table : {"devices", "checkout_links"}) {
+            for (const auto &row : store->database.select(u"SELECT * FROM "_s + QLatin1String(table))) {
+                for (const auto &value : row) {
+                    kept += value.toByteArray();
+                }
+            }
+        }
+    }
+    for (const auto &entry : QDir(database.folder()).entryInfoList(QDir::Files)) {
         QFile file(entry.filePath());
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
         kept += file.readAll();
         EXPECT_EQ(file.permissions() & (QFile::ReadGroup | QFile::ReadOther), 0) << entry.fileName().toStdString();
     }
-    EXPECT_TRUE(kept.contains(device.deviceId.toLatin1())); // so the files do hold the device
+    EXPECT_TRUE(kept.contains(device.deviceId.toLatin1())); // so it is where the device is kept
     EXPECT_FALSE(kept.contains(device.secret.toLatin1()));
     EXPECT_FALSE(kept.contains(link));
 }
 
-TEST_F(StoreTest, OutlivesTheProcess)
-{
-    const auto device = open()->devices.add(QStringLiteral("linux"));
-    const auto found = open()->devices.authenticate(credential(device));
-    ASSERT_TRUE(found);
-    EXPECT_EQ(found->balance, 3600);
-}
-
-TEST_F(StoreTest, ChargesWhatTheBalanceCoversAndExplainsIt)
+TEST_P(StoreTest, TakesWhatWasHeldOnceItIsDelivered)
 {
     const auto store = open({.freeTokens = 10});
-    const auto id = store->devices.add(QStringLiteral("linux")).deviceId;
-    const auto charge = store->ledger.charge(id, 7);
-    ASSERT_TRUE(charge);
-    EXPECT_EQ(charge->balance, 3);
-    EXPECT_FALSE(store->ledger.charge(id, 4));
-    expectExplained(*store, id);
-    store->ledger.refund(id, *charge);
-    EXPECT_EQ(store->ledger.balance(id), 10);
-    expectExplained(*store, id);
+    const auto id = store->devices.add(u"linux"_s).deviceId;
+    auto &ledger = store->ledger;
+    auto delivered = ledger.hold(id, 7);
+    const auto failed = ledger.hold(id, 3);
+    ASSERT_TRUE(delivered && failed);
+    EXPECT_FALSE(ledger.hold(id, 1));
+    EXPECT_EQ(ledger.balance(id), 10); // nothing is taken yet
+    EXPECT_EQ(ledger.deliver(*delivered), 3);
+    EXPECT_EQ(ledger.balance(id), 3); // what the reply said
+    ledger.settle(*delivered);
+    ledger.settle(*delivered);
+    ledger.release(*delivered);
+    ledger.release(*failed);
+    EXPECT_EQ(ledger.balance(id), 3);
+    EXPECT_TRUE(ledger.hold(id, 3));
+    EXPECT_THAT(ledger.unexplained(), testing::IsEmpty());
+    QStringList entries;
+    for (const auto &entry : ledger.entries(id, 0, 10)) {
+        entries.append(u"%1 %2"_s.arg(entry.reason).arg(entry.amount));
+    }
+    EXPECT_EQ(entries, (QStringList{u"grant 10"_s, u"transcription -7"_s}));
 }
 
-TEST_F(StoreTest, NeverChargesAnUnmeteredDevice)
+TEST_P(StoreTest, ForgetsTheHoldsOfAProcessThatDied)
 {
-    const auto store = open({.freeTokens = 0});
-    const auto id = store->devices.add(QStringLiteral("linux")).deviceId;
-    store->database.execute(QStringLiteral("UPDATE devices SET unmetered = 1"));
-    const auto charge = store->ledger.charge(id, 7);
-    ASSERT_TRUE(charge);
-    store->ledger.refund(id, *charge);
-    EXPECT_EQ(store->ledger.balance(id), 0);
+    const auto store = open({.freeTokens = 10});
+    const auto id = store->devices.add(u"linux"_s).deviceId;
+    auto slow = store->ledger.hold(id, 6);
+    auto dead = store->ledger.hold(id, 4);
+    store->ledger.deliver(*dead);
+    EXPECT_FALSE(store->ledger.hold(id, 10));
+    now += Ledger::holdLifetime;
+    const auto other = store->ledger.hold(id, 5);
+    ASSERT_TRUE(other);
+    EXPECT_EQ(store->ledger.deliver(*slow), std::nullopt); // it would not fit in any more
+    store->ledger.release(*other);
+    EXPECT_EQ(store->ledger.deliver(*slow), 4); // and now it does
+    store->ledger.settle(*slow);
+    EXPECT_EQ(store->devices.find(id)->balance, 4);
+    EXPECT_EQ(store->devices.find(id)->held, 0);
 }
 
-TEST_F(StoreTest, GrantsFreeTokensUntilTheDaysPoolIsEmpty)
+TEST_P(StoreTest, ChangesNoBalanceBelowWhatIsHeldAndNoneThatIsNotMetered)
+{
+    const auto store = open({.freeTokens = 10});
+    const auto id = store->devices.add(u"linux"_s).deviceId;
+    ASSERT_TRUE(store->ledger.hold(id, 7));
+    EXPECT_FALSE(store->ledger.credit(id, -4, u"operator"_s));
+    EXPECT_TRUE(store->ledger.credit(id, -3, u"operator"_s));
+    EXPECT_FALSE(store->ledger.credit(u"nobody"_s, 1, u"operator"_s));
+
+    const auto free = store->devices.add(u"linux"_s).deviceId;
+    EXPECT_TRUE(store->devices.setUnmetered(free, true));
+    auto hold = store->ledger.hold(free, 1000);
+    ASSERT_TRUE(hold);
+    EXPECT_EQ(store->ledger.deliver(*hold), 10);
+    store->ledger.settle(*hold);
+    EXPECT_EQ(store->ledger.balance(free), 10);
+    EXPECT_THAT(store->ledger.unexplained(), testing::IsEmpty());
+}
+
+TEST_P(StoreTest, ServesOneDeviceAndOnePoolThroughManyConnectionsAtOnce)
+{
+    constexpr int connections = 4;
+    constexpr int attempts = 25;
+    open(); // brings the tables into being
+    const auto id = open({.freeTokens = 50})->devices.add(u"linux"_s).deviceId;
+    std::barrier begin(connections);
+    std::atomic<int> delivered = 0;
+    std::atomic<int> granted = 0;
+    std::vector<std::jthread> threads;
+    for (int i = 0; i < connections; ++i) {
+        threads.emplace_back([&] {
+            const auto store = open({.freeTokens = 1, .dailyPool = 80}); // of which 50 are gone
+            begin.arrive_and_wait();
+            for (int attempt = 0; attempt < attempts; ++attempt) {
+                if (auto hold = store->ledger.hold(id, 1)) {
+                    store->ledger.deliver(*hold);
+                    store->ledger.settle(*hold);
+                    ++delivered;
+                }
+                granted += store->devices.add(u"linux"_s).freeGrantMissed ? 0 : 1;
+            }
+        });
+    }
+    threads.clear();
+    EXPECT_EQ(delivered, 50);
+    EXPECT_EQ(granted, 30);
+    const auto store = open();
+    EXPECT_EQ(store->ledger.balance(id), 0);
+    EXPECT_THAT(store->ledger.unexplained(), testing::IsEmpty());
+}
+
+TEST_P(StoreTest, GrantsFreeTokensUntilTheDaysPoolIsEmpty)
 {
     const auto store = open({.freeTokens = 10, .dailyPool = 25});
     QList<bool> missed;
     for (int i = 0; i < 3; ++i) {
-        missed.append(store->devices.add(QStringLiteral("linux")).freeGrantMissed);
+        missed.append(store->devices.add(u"linux"_s).freeGrantMissed);
     }
     EXPECT_EQ(missed, (QList{false, false, true}));
     now += 86'400;
-    EXPECT_FALSE(store->devices.add(QStringLiteral("linux")).freeGrantMissed);
+    EXPECT_FALSE(store->devices.add(u"linux"_s).freeGrantMissed);
+    EXPECT_EQ(store->devices.list({}, 2).size(), 2);
+    EXPECT_EQ(store->devices.list(store->devices.list({}, 2).last().id, 9).size(), 2);
 }
 
-TEST_F(StoreTest, RedeemsALinkOnceAndInTime)
+TEST_P(StoreTest, SellsOncePerLinkAndCreditsOncePerPurchase)
 {
-    const auto store = open();
-    const auto id = store->devices.add(QStringLiteral("linux")).deviceId;
-    const auto link = store->checkoutLinks.add(id);
-    EXPECT_TRUE(store->checkoutLinks.isValid(link));
-    EXPECT_EQ(store->checkoutLinks.redeem(link, 100), 3700);
-    EXPECT_EQ(store->checkoutLinks.redeem(link, 100), std::nullopt);
-    EXPECT_FALSE(store->checkoutLinks.isValid(link));
+    const auto store = open({.freeTokens = 0});
+    auto &checkout = store->checkout;
+    const auto id = store->devices.add(u"linux"_s).deviceId;
+    const auto link = checkout.addLink(id);
+    EXPECT_TRUE(checkout.isValid(link));
+    auto purchase = checkout.begin(link, {100, 199}, u"eur"_s);
+    ASSERT_TRUE(purchase);
+    EXPECT_FALSE(checkout.isValid(link));
+    EXPECT_FALSE(checkout.begin(link, {100, 199}, u"eur"_s));
+    checkout.abandon(link, *purchase);
+    purchase = checkout.begin(link, {100, 199}, u"eur"_s);
+    ASSERT_TRUE(purchase);
+    EXPECT_EQ(store->ledger.balance(id), 0);
+    EXPECT_EQ(checkout.complete(u"unknown"_s, u"event 0"_s), std::nullopt);
+    EXPECT_EQ(checkout.complete(purchase->id, u"event 1"_s), 100);
+    EXPECT_EQ(checkout.complete(purchase->id, u"event 1"_s), std::nullopt);
+    EXPECT_EQ(checkout.complete(purchase->id, u"event 2"_s), std::nullopt);
 
-    const auto late = store->checkoutLinks.add(id);
+    const auto late = checkout.addLink(id);
     now += 1800;
-    EXPECT_FALSE(store->checkoutLinks.isValid(late));
-    EXPECT_EQ(store->checkoutLinks.redeem(late, 100), std::nullopt);
-    EXPECT_EQ(store->ledger.balance(id), 3700);
-    expectExplained(*store, id);
+    EXPECT_FALSE(checkout.isValid(late));
+    EXPECT_FALSE(checkout.begin(late, {100, 199}, u"eur"_s));
+    EXPECT_EQ(store->ledger.balance(id), 100);
+    EXPECT_EQ(store->ledger.entries(id, 0, 9).last().reference, purchase->id);
+    EXPECT_THAT(store->ledger.unexplained(), testing::IsEmpty());
 }

@@ -31,10 +31,10 @@ inline QStringList generated(const char *source)
     return {QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"), QString::fromLatin1(source)};
 }
 
-/// 1.5 s of a tone: loud enough for the gate, two started seconds.
+/// 1.5 s of a tone that comes and goes as syllables do, so that the gate lets it pass: two started seconds.
 inline const std::string &tone()
 {
-    static const auto file = recordingOf(generated("sine=frequency=440:duration=1.5"));
+    static const auto file = recordingOf(generated("sine=frequency=440:duration=1.5,tremolo=f=4:d=0.9"));
     return file;
 }
 

@@ -16,6 +16,8 @@
 struct HttpAnswer {
     unsigned status = 0;
     std::string contentType;
+    std::string location;
+    std::string retryAfter;
     std::string body;
 
     QJsonObject json() const { return QJsonDocument::fromJson(QByteArray::fromStdString(body)).object(); }
@@ -50,8 +52,10 @@ public:
     {
         boost::beast::http::response<boost::beast::http::string_body> response;
         boost::beast::http::read(m_socket, m_buffer, response);
-        const auto type = response[boost::beast::http::field::content_type];
-        return {response.result_int(), {type.data(), type.size()}, response.body()};
+        using field = boost::beast::http::field;
+        const auto text = [&](auto name) { return std::string(response[name]); };
+        return {response.result_int(), text(field::content_type), text(field::location), text(field::retry_after),
+                response.body()};
     }
 
     /// Waits for the server; true when it closed without another byte.
@@ -85,3 +89,11 @@ inline std::string multipart(std::string_view file)
 }
 
 inline constexpr std::string_view multipartHeader = "Content-Type: multipart/form-data; boundary=b\r\n";
+
+/// Registers a device; its authorization header.
+inline std::string registeredAt(uint16_t port)
+{
+    const auto device = HttpClient(port).send("POST", "/v1/devices", {}, R"({"platform":"linux"})").json();
+    return "Authorization: Bearer " + device[QLatin1String("deviceId")].toString().toStdString() + "." +
+           device[QLatin1String("secret")].toString().toStdString() + "\r\n";
+}

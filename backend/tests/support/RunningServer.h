@@ -12,9 +12,9 @@
 /// A server on an ephemeral loopback port with a thread of its own, stopped and awaited on destruction.
 class RunningServer {
 public:
-    explicit RunningServer(ServerLimits limits = {})
+    explicit RunningServer(ServerOptions options = {})
         : m_acceptor(m_io, {boost::asio::ip::address_v4::loopback(), 0}),
-          m_limits(limits),
+          m_options(std::move(options)),
           m_port(m_acceptor.local_endpoint().port())
     {
     }
@@ -23,9 +23,10 @@ public:
     uint16_t port() const { return m_port; }
     std::string url() const { return "http://127.0.0.1:" + std::to_string(m_port); }
 
-    void start(RequestHandler &handler)
+    void start(
+        RequestHandler &handler, Server::AccessLog log = [](const AccessRecord &) {})
     {
-        m_server = std::make_unique<Server>(std::move(m_acceptor), handler, m_limits, [](const AccessRecord &) {});
+        m_server = std::make_unique<Server>(std::move(m_acceptor), handler, m_options, std::move(log));
         m_server->start();
         m_thread = std::thread([this] { m_io.run(); });
     }
@@ -41,7 +42,7 @@ public:
 private:
     boost::asio::io_context m_io;
     boost::asio::ip::tcp::acceptor m_acceptor;
-    ServerLimits m_limits;
+    ServerOptions m_options;
     uint16_t m_port;
     std::unique_ptr<Server> m_server;
     std::thread m_thread;

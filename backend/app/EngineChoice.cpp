@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#include "app/EngineChoice.h"
+
+#include "engine/PocketSphinxEngine.h"
+
+std::unique_ptr<Engine> makeEngine(const Settings &settings)
+{
+    switch (settings.engine) {
+    case Settings::EngineKind::OpenAi:
+        return std::make_unique<OpenAiEngine>(settings.openAi);
+    case Settings::EngineKind::PocketSphinx:
+        break;
+    }
+    return std::make_unique<PocketSphinxEngine>(PocketSphinxEngine::defaultModelFolder());
+}

@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: MIT
+#include "app/OperatorCommands.h"
+
+#include "app/EngineChoice.h"
+#include "audio/AudioDecoder.h"
+#include "audio/SpeechGate.h"
+
+#include <QDateTime>
+#include <QFile>
+
+#include <iostream>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int pageSize = 1000;
+
+Store openStore(const Settings &settings)
+{
+    return {settings.database, settings.grants, systemClock()};
+}
+
+void print(const QString &line)
+{
+    std::cout << line.toStdString() << '\n';
+}
+
+QString timeText(qint64 seconds)
+{
+    return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate);
+}
+
+QString line(const DeviceRecord &device)
+{
+    QStringList words{u"%1"_s.arg(device.balance, 12), timeText(device.createdAt), device.platform};
+    if (device.held > 0) {
+        words.append(u"held=%1"_s.arg(device.held));
+    }
+    if (device.unmetered) {
+        words.append(u"unmetered"_s);
+    }
+    if (device.revoked) {
+        words.append(u"revoked"_s);
+    }
+    return device.id + u"  "_s + words.join(u"  "_s);
+}
+
+[[noreturn]] void failUnknown(const QString &id)
+{
+    throw StoreError("there is no device " + id.toStdString());
+}
+
+void print(Store &store, const QString &id)
+{
+    const auto device = store.devices.find(id);
+    if (!device) {
+        failUnknown(id);
+    }
+    print(line(*device));
+}
+
+} // namespace
+
+void listDevices(const Settings &settings, const QStringList &)
+{
+    auto store = openStore(settings);
+    auto devices = store.devices.list({}, pageSize);
+    while (!devices.isEmpty()) {
+        for (const auto &device : devices) {
+            print(line(device));
+        }
+        devices = store.devices.list(devices.last().id, pageSize);
+    }
+}
+
+void showDevice(const Settings &settings, const QStringList &words)
+{
+    auto store = openStore(settings);
+    print(store, words[0]);
+}
+
+void grantTokens(const Settings &settings, const QStringList &words)
+{
+    bool valid = false;
+    const auto tokens = words[1].toLongLong(&valid);
+    if (!valid || tokens == 0) {
+        failSettings(u"TOKENS must be a whole number other than 0"_s);
+    }
+    auto store = openStore(settings);
+    if (!store.devices.find(words[0])) {
+        failUnknown(words[0]);
+    }
+    Transaction transaction(store.database);
+    if (!store.ledger.credit(words[0], tokens, u"operator"_s)) {
+        throw StoreError("the device has fewer tokens than that");
+    }
+    transaction.commit();
+    print(store, words[0]);
+}
+
+void unmeterDevice(const Settings &settings, const QStringList &words)
+{
+    auto store = openStore(settings);
+    store.devices.setUnmetered(words[0], true);
+    print(store, words[0]);
+}
+
+void meterDevice(const Settings &settings, const QStringList &words)
+{
+    auto store = openStore(settings);
+    store.devices.setUnmetered(words[0], false);
+    print(store, words[0]);
+}
+
+void revokeDevice(const Settings &settings, const QStringList &words)
+{
+    auto store = openStore(settings);
+    store.devices.revoke(words[0]);
+    print(store, words[0]);
+}
+
+void showLedger(const Settings &settings, const QStringList &words)
+{
+    auto store = openStore(settings);
+    const auto id = words.value(0);
+    if (!id.isEmpty() && !store.devices.find(id)) {
+        failUnknown(id);
+    }
+    auto entries = store.ledger.entries(id, 0, pageSize);
+    while (!entries.isEmpty()) {
+        for (const auto &entry : entries) {
+            print(u"%1  %2  %3  %4  %5"_s.arg(timeText(entry.createdAt), entry.deviceId)
+                      .arg(entry.amount, 12)
+                      .arg(entry.reason, entry.reference)
+                      .trimmed());
+        }
+        entries = store.ledger.entries(id, entries.last().id, pageSize);
+    }
+    if (const auto unexplained = store.ledger.unexplained(); !unexplained.isEmpty()) {
+        throw StoreError("the entries do not add up to the balance of " + unexplained.join(u", "_s).toStdString());
+    }
+}
+
+void testEngine(const Settings &settings, const QStringList &words)
+{
+    QFile file(words[0]);
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw std::runtime_error(words[0].toStdString() + " can't be read");
+    }
+    const auto bytes = file.readAll().toStdString();
+    SpeechGate gate;
+    const auto count =
+        decodeAudio(bytes, longestRecording, [&](std::span<const int16_t> samples) { gate.add(samples); });
+    const auto seconds = static_cast<double>(count) / speechRate;
+    if (!gate.mayHoldSpeech()) {
+        std::cerr << seconds << " s of silence or noise, which the engine is not given\n";
+        return;
+    }
+    const auto engine = makeEngine(settings);
+    engine->prepare();
+    const auto started = std::chrono::steady_clock::now();
+    print(engine->transcribe({bytes, longestRecording}).trimmed());
+    const auto taken = std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
+    std::cerr << taken << " s for " << seconds << " s of audio, real-time factor " << taken / seconds << '\n';
+}
+
+void checkConfiguration(const Settings &settings, const QStringList &)
+{
+    print(u"The configuration is right. The database is %1."_s.arg(shownDatabase(settings.database)));
+}

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "http/Server.h"
+
+#include <QtGlobal>
+
+#include <chrono>
+#include <memory>
+#include <string>
+
+/// What the server counts, for Prometheus. Any thread.
+class Metrics {
+public:
+    Metrics();
+    ~Metrics();
+
+    void answered(const AccessRecord &record);
+    void engineRan(std::chrono::steady_clock::duration duration, bool succeeded);
+    void delivered(qint64 seconds, qint64 tokens);
+
+    /// In Prometheus' text format, with these as they are now.
+    std::string text(size_t connections, int placesTaken);
+
+private:
+    struct Families;
+    std::unique_ptr<Families> m_families;
+};

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Stripe's message that something was paid.
+struct PaymentEvent {
+    QString id;
+    QString purchaseId; ///< empty when the event is about anything else
+};
+
+/// The event of a message whose Stripe-Signature header (`t=<seconds>,v1=<HMAC-SHA256 of "t.body">`, of which there may
+/// be several) was made with `secret` less than five minutes from `now`; otherwise nothing.
+std::optional<PaymentEvent> verifyStripeEvent(std::string_view signature, std::string_view body,
+                                              const std::string &secret, qint64 now);

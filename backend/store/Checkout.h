@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "store/Ledger.h"
+
+/// Something to buy.
+struct Pack {
+    qint64 tokens = 0;
+    qint64 price = 0; ///< in the currency's smallest unit, such as cents
+};
+
+struct Purchase {
+    QString id;
+    QString deviceId;
+    qint64 tokens = 0;
+};
+
+/// Links to the page on which a device's tokens are bought, good for one purchase within half an hour, and the
+/// purchases made with them.
+class Checkout {
+public:
+    Checkout(Database &database, Ledger &ledger, WallClock clock);
+
+    /// A new link's token; only its hash is kept.
+    QByteArray addLink(const QString &deviceId);
+
+    /// Whether the link can still be used.
+    bool isValid(const QByteArray &token);
+
+    /// Uses the link up for a purchase that is not paid yet. Nothing when the link is unknown, expired or used.
+    std::optional<Purchase> begin(const QByteArray &token, const Pack &pack, const QString &currency);
+
+    /// Undoes begin() when the payment could not be asked for.
+    void abandon(const QByteArray &token, const Purchase &purchase);
+
+    /// Credits the purchase and returns its device's new balance; at most once, whatever is reported how often. Nothing
+    /// when there is no such purchase, or it was credited before. `eventId` is the payment provider's, if it has any.
+    std::optional<qint64> complete(const QString &purchaseId, const QString &eventId = {});
+
+private:
+    Database &m_database;
+    Ledger &m_ledger;
+    WallClock m_clock;
+};

@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+/// Each entry brings the tables from its index to the next version. Entries that were released never change. "{blob}"
+/// and "{serial}" (a primary key that counts by itself) are spelled differently by the databases.
+const QList<QStringList> &migrations();
