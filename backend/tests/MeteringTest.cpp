@@ -80,10 +80,10 @@ TEST_P(MeteringTest, ChargesWhatWasDeliveredAndNothingElseHoweverOftenItIsKilled
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     auto server = start();
-    std::vector<std::string> devices;
+    std::vector<std::string> devices(clients);
     std::vector<int> delivered(clients, 0);
-    for (int i = 0; i < clients; ++i) {
-        devices.push_back(registeredAt(server->port()));
+    for (auto &device : devices) {
+        device = registeredAt(server->port());
     }
     for (int round = 0; round < rounds; ++round) {
         // Some milliseconds after that request has come in, it is anywhere between the engine and the reply.

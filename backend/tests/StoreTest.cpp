@@ -157,6 +157,7 @@ TEST_P(StoreTest, ServesOneDeviceAndOnePoolThroughManyConnectionsAtOnce)
     std::atomic<int> delivered = 0;
     std::atomic<int> granted = 0;
     std::vector<std::jthread> threads;
+    threads.reserve(connections);
     for (int i = 0; i < connections; ++i) {
         threads.emplace_back([&] {
             const auto store = open({.freeTokens = 1, .dailyPool = 80}); // of which 50 are gone
