@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Thin over CMake and tools/. Each target installs what is missing, builds, and does its job.
 
-.PHONY: run demo test lint bench build setup
+.PHONY: run demo test lint bench screenshots build setup
 PRESET ?= dev
 
 run: build
@@ -19,6 +19,9 @@ lint: setup
 bench:
 	$(MAKE) build PRESET=release
 	tools/bench release
+
+screenshots: build
+	tools/screenshots $(PRESET)
 
 build: setup
 	cmake --preset $(PRESET) --log-level=WARNING

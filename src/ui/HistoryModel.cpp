@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 namespace {
 
 // Work in one go: with what the window then draws it fits into a frame of 16 ms.
-constexpr auto slice = 5ms;
+constexpr auto slice = 4ms;
 
 QDate localDate(const Transcription &entry)
 {
@@ -37,7 +37,7 @@ HistoryModel::HistoryModel(TranscriptionStore &store, GroupStore &groups, Pasteb
         m_index.clear();
         refresh();
     });
-    connect(&groups, &GroupStore::activeIdChanged, this, &HistoryModel::refresh);
+    connect(&groups, &GroupStore::activeIdChanged, this, [this] { refresh(); });
     connect(&groups, &GroupStore::groupsChanged, this, [this] { refreshRole(MetaRole); });
     connect(&m_worker, &QTimer::timeout, this, &HistoryModel::work);
     refresh();
@@ -95,8 +95,9 @@ void HistoryModel::setSearch(const QString &search)
     Q_EMIT searchChanged();
     const QString query = trimmedBlanks(search);
     if (m_query != query) {
+        const bool isNarrower = !m_query.isEmpty() && query.contains(m_query) && !isSearching();
         m_query = query;
-        refresh();
+        refresh(isNarrower ? m_rows : std::nullopt);
     }
 }
 
@@ -245,7 +246,7 @@ void HistoryModel::onRemoved(qsizetype place)
     }
 }
 
-void HistoryModel::refresh()
+void HistoryModel::refresh(Rows within)
 {
     m_running.reset();
     m_found.clear();
@@ -264,7 +265,7 @@ void HistoryModel::refresh()
         replace(std::move(inGroup));
     } else {
         index(QDeadlineTimer::Forever);
-        m_running.emplace(m_index, m_query);
+        m_running.emplace(m_index, m_query, std::move(within));
         searchOn(QDeadlineTimer(slice));
     }
     setTotal(total);

@@ -78,8 +78,9 @@ private:
     void onAdded();
     void onChanged(qsizetype place);
     void onRemoved(qsizetype place);
-    /// Starts over with the rows of the active group and the search.
-    void refresh();
+    /// Starts over with the rows of the active group and the search. `within`, where given, are rows known to hold all
+    /// that the search can find.
+    void refresh(Rows within = {});
     void setTotal(int total);
     void replace(Rows rows);
     void removeRow(int row);

@@ -48,13 +48,13 @@ QFont sized(QFont font, int size, qreal letterSpacing = 0)
     return font;
 }
 
-QFont display(const QString &postScriptName, QFont::Weight weight, bool isItalic, int size)
+QFont display(const QString &postScriptName, const QString &substitute, QFont::Weight weight, bool isItalic, int size)
 {
     if (Paper::hasFraunces() && registered().contains(postScriptName)) {
         return sized(registered().value(postScriptName), size);
     }
     QFont font;
-    font.setFamilies({u"Vollkorn"_s, u"serif"_s});
+    font.setFamilies({substitute, u"serif"_s});
     font.setStyleHint(QFont::Serif);
     font.setWeight(weight);
     font.setItalic(isItalic);
@@ -135,12 +135,17 @@ bool Paper::hasFraunces()
 
 QFont Paper::black(int size)
 {
-    return display(u"Fraunces72pt-Black"_s, QFont::Black, false, size);
+    return display(u"Fraunces72pt-Black"_s, u"Vollkorn"_s, QFont::Black, false, size);
 }
 
 QFont Paper::italic(int size)
 {
-    return display(u"Fraunces72pt-Italic"_s, QFont::Normal, true, size);
+    return display(u"Fraunces72pt-Italic"_s, u"Vollkorn"_s, QFont::Normal, true, size);
+}
+
+QFont Paper::italicFigures(int size)
+{
+    return display(u"Fraunces72pt-Italic"_s, u"Liberation Serif"_s, QFont::Normal, true, size);
 }
 
 QFont Paper::sans(int size, qreal letterSpacing)

@@ -41,6 +41,9 @@ public:
     /// The display face, black and italic; without it the nearest serif of the system.
     Q_INVOKABLE static QFont black(int size);
     Q_INVOKABLE static QFont italic(int size);
+    /// The italic for numbers standing alone: where the nearest serif has old-style figures, one without. Their "1" is
+    /// easily taken for a letter.
+    Q_INVOKABLE static QFont italicFigures(int size);
     /// Running text.
     Q_INVOKABLE static QFont sans(int size, qreal letterSpacing = 0);
     /// Labels and buttons.

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -17,8 +18,12 @@ QByteArray folded(const QString &text)
 
 } // namespace
 
-SearchIndex::Search::Search(const SearchIndex &index, const QString &query)
-    : m_index(&index), m_query(folded(query)), m_blocksLeft(index.m_blocks.size()), m_serialsLeft(index.m_count)
+SearchIndex::Search::Search(const SearchIndex &index, const QString &query, std::optional<std::vector<uint32_t>> within)
+    : m_index(&index),
+      m_query(folded(query)),
+      m_within(std::move(within)),
+      m_blocksLeft(index.m_blocks.size()),
+      m_serialsLeft(index.m_count)
 {
 }
 
@@ -27,12 +32,27 @@ bool SearchIndex::Search::advance(QDeadlineTimer deadline, std::vector<uint32_t>
     while (m_blocksLeft > 0) {
         const Block &block = m_index->m_blocks[--m_blocksLeft];
         m_serialsLeft -= static_cast<uint32_t>(block.starts.size());
+        if (!isWorthSearching(m_serialsLeft)) {
+            continue;
+        }
         block.find(m_query, m_serialsLeft, serials);
         if (deadline.hasExpired()) {
             break;
         }
     }
     return m_blocksLeft == 0;
+}
+
+bool SearchIndex::Search::isWorthSearching(uint32_t firstSerial)
+{
+    if (!m_within) {
+        return true;
+    }
+    const size_t before = m_nextWithin;
+    while (m_nextWithin < m_within->size() && (*m_within)[m_nextWithin] >= firstSerial) {
+        ++m_nextWithin;
+    }
+    return m_nextWithin > before;
 }
 
 void SearchIndex::append(const QString &text)

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,14 +17,20 @@ public:
     /// One search, newest entries first, that can be interrupted. The index must not change between the steps.
     class Search {
     public:
-        Search(const SearchIndex &index, const QString &query);
+        /// `within`, where given, are the serials that an earlier search found, newest first, for a part of the query:
+        /// only their neighbourhood is searched.
+        Search(const SearchIndex &index, const QString &query, std::optional<std::vector<uint32_t>> within = {});
 
         /// Appends the serials found until the deadline; at least one step is made. True when all has been searched.
         bool advance(QDeadlineTimer deadline, std::vector<uint32_t> &serials);
 
     private:
+        bool isWorthSearching(uint32_t firstSerial);
+
         const SearchIndex *m_index;
         QByteArray m_query;
+        std::optional<std::vector<uint32_t>> m_within;
+        size_t m_nextWithin = 0;
         size_t m_blocksLeft;
         uint32_t m_serialsLeft;
     };

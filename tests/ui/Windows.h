@@ -34,22 +34,23 @@ struct Windows {
                                                  text("Right ⌃ Control"), text("Fn (🌐)")}},
                  {"isFnKey", false},
                  {"triggerMode", 0},
-                 {"triggerModeLabels", QStringList{text("Tap to toggle, hold to talk"), text("Hold to talk"),
-                                                   text("Tap to toggle")}},
+                 {"triggerModeLabels",
+                  QStringList{text("Tap to toggle, hold to talk"), text("Hold to talk"), text("Tap to toggle")}},
                  {"isMicrophoneGranted", true},
                  {"isTrusted", true},
                  {"hasConsent", true},
                  {"launchesAtLogin", false}}) {
             model.insert(QString::fromLatin1(name), value);
         }
-        for (const char *call : {"fixMicrophone", "fixAccessibility", "reviewConsent", "refreshBalance", "editGroups"}) {
+        for (const char *call :
+             {"fixMicrophone", "fixAccessibility", "reviewConsent", "refreshBalance", "editGroups"}) {
             const QString name = QString::fromLatin1(call);
             // Counts its calls under "calls.NAME".
             calls.insert(name, 0);
-            model.insert(name, engine.evaluate(QStringLiteral("(function(calls) { return () => { calls.%1 += 1; } })")
-                                                   .arg(name))
-                                   .call({engine.newQObject(&calls)})
-                                   .toVariant());
+            model.insert(
+                name, engine.evaluate(QStringLiteral("(function(calls) { return () => { calls.%1 += 1; } })").arg(name))
+                          .call({engine.newQObject(&calls)})
+                          .toVariant());
         }
         QQmlEngine::setObjectOwnership(&calls, QQmlEngine::CppOwnership);
         history = std::make_unique<HistoryWindow>(

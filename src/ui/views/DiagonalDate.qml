@@ -15,13 +15,13 @@ Item {
     Text {
         anchors { left: parent.left; top: parent.top; topMargin: -metrics.rise }
         text: badge.day
-        font: Paper.italic(22)
+        font: Paper.italicFigures(22)
         color: Paper.primary
     }
     Text {
         anchors { right: parent.right; bottom: parent.bottom; bottomMargin: -metrics.drop }
         text: badge.month
-        font: Paper.italic(22)
+        font: Paper.italicFigures(22)
         color: Paper.primary
     }
     Image {
@@ -36,6 +36,6 @@ Item {
         readonly property real rise: Math.max(0, ascent - tightBoundingRect("0").height - 4)
         readonly property real drop: Math.max(0, descent - 4)
 
-        font: Paper.italic(22)
+        font: Paper.italicFigures(22)
     }
 }

@@ -49,12 +49,11 @@ Item {
             anchors.centerIn: parent
             spacing: 10
 
-            Rectangle {
+            Capsule {
                 visible: view.isRecording
                 anchors.verticalCenter: parent.verticalCenter
                 width: 9
                 height: 9
-                radius: 4.5
                 color: "#ff3b30"
             }
 

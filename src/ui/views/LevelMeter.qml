@@ -14,13 +14,12 @@ Row {
     Repeater {
         model: meter.weights
 
-        Rectangle {
+        Capsule {
             required property real modelData
 
             anchors.verticalCenter: parent.verticalCenter
             width: 3
             height: meter.level * 14 * modelData + 4
-            radius: 1.5
             color: Qt.rgba(1, 1, 1, 0.9)
 
             Behavior on height {

@@ -21,12 +21,11 @@ Column {
             width: strip.model.state === "recording" ? 9 : 16
             height: 16
 
-            Rectangle {
+            Capsule {
                 visible: strip.model.state === "recording"
                 anchors.centerIn: parent
                 width: 9
                 height: 9
-                radius: 4.5
                 color: Paper.accent
             }
             Image {
