@@ -10,7 +10,6 @@
 #include <boost/beast/http/write.hpp>
 #include <sys/socket.h>
 
-#include <algorithm>
 #include <cerrno>
 
 namespace beast = boost::beast;
@@ -21,28 +20,9 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr size_t readAhead = 128UL * 1024;
-constexpr uint32_t largestHeader = 16'384;
 constexpr size_t mostDiscarded = 64UL * 1024 * 1024;
 // For a request that a client is sending while the server stops.
 constexpr std::chrono::seconds lastChance{1};
-
-/// An IPv4 address in the form it has without IPv6.
-net::ip::address unmapped(const net::ip::address &address)
-{
-    return address.is_v6() && address.to_v6().is_v4_mapped()
-               ? net::ip::address(net::ip::make_address_v4(net::ip::v4_mapped, address.to_v6()))
-               : address;
-}
-
-std::string text(beast::string_view view)
-{
-    return {view.data(), view.size()};
-}
-
-std::string pathOf(beast::string_view target)
-{
-    return text(target.substr(0, target.find('?')));
-}
 
 /// The client's own fault, in contrast to a connection that ended.
 std::optional<Reply> replyTo(const beast::error_code &error)
@@ -100,27 +80,21 @@ net::awaitable<void> Connection::serveOne()
 {
     co_await waitForRequest();
     const auto started = Clock::now();
-    Parser parser;
+    RequestParser parser;
     auto refusal = co_await read(parser);
     AccessRecord record;
-    record.address = clientAddress(parser).to_string();
+    const auto address = clientAddress(parser, m_peer, m_options.trustedProxies);
+    record.address = address.to_string();
     unsigned version = 11;
     Reply reply;
     if (refusal) {
         m_last = true;
         reply = std::move(*refusal);
     } else {
-        auto &message = parser.get();
-        version = message.version();
-        m_last = m_last || !message.keep_alive();
-        const Request request{text(message.method_string()),
-                              pathOf(message.target()),
-                              clientAddress(parser),
-                              text(message[http::field::authorization]),
-                              text(message[http::field::content_type]),
-                              text(message["Stripe-Signature"]),
-                              std::move(message.body()),
-                              [this] { return isConnected(); }};
+        version = parser.get().version();
+        m_last = m_last || !parser.get().keep_alive();
+        auto request = takeRequest(parser, address);
+        request.connected = [this] { return isConnected(); };
         record.method = request.method;
         record.received = request.body.size();
         m_buffer.shrink_to_fit();
@@ -138,19 +112,6 @@ net::awaitable<void> Connection::serveOne()
     m_log(record);
 }
 
-net::ip::address Connection::clientAddress(const Parser &parser) const
-{
-    if (std::ranges::find(m_options.trustedProxies, m_peer) == m_options.trustedProxies.end()) {
-        return m_peer;
-    }
-    // The last entry is the one that the proxy itself wrote.
-    const auto header = text(parser.get()["X-Forwarded-For"]);
-    const auto start = header.find_last_of(", ");
-    beast::error_code error;
-    const auto address = net::ip::make_address(header.substr(start == std::string::npos ? 0 : start + 1), error);
-    return error ? m_peer : unmapped(address);
-}
-
 net::awaitable<void> Connection::waitForRequest()
 {
     m_idle = true;
@@ -163,10 +124,9 @@ net::awaitable<void> Connection::waitForRequest()
     m_fresh = false;
 }
 
-net::awaitable<std::optional<Reply>> Connection::read(Parser &parser)
+net::awaitable<std::optional<Reply>> Connection::read(RequestParser &parser)
 {
-    parser.header_limit(largestHeader);
-    parser.body_limit(boost::none); // until the path is known
+    limitHeader(parser);
     m_stream.expires_after(m_options.header);
     beast::error_code error;
     co_await http::async_read_header(m_stream, m_buffer, parser, net::redirect_error(net::use_awaitable, error));
@@ -190,7 +150,7 @@ net::awaitable<std::optional<Reply>> Connection::read(Parser &parser)
     co_return std::nullopt;
 }
 
-net::awaitable<void> Connection::allowBody(const Parser &parser)
+net::awaitable<void> Connection::allowBody(const RequestParser &parser)
 {
     if (beast::iequals(parser.get()[http::field::expect], "100-continue")) {
         static constexpr std::string_view permission = "HTTP/1.1 100 Continue\r\n\r\n";

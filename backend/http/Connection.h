@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "http/RequestParsing.h"
 #include "http/Server.h"
 
 #include <boost/beast/core/flat_buffer.hpp>
 #include <boost/beast/core/tcp_stream.hpp>
-#include <boost/beast/http/parser.hpp>
-#include <boost/beast/http/string_body.hpp>
 
 #include <optional>
 
@@ -24,17 +23,14 @@ public:
     void finish();
 
 private:
-    using Parser = boost::beast::http::request_parser<boost::beast::http::string_body>;
-
     net::awaitable<void> serveOne();
     net::awaitable<void> waitForRequest();
     /// The reply to a request that is malformed or too large, or nothing when it was read whole.
-    net::awaitable<std::optional<Reply>> read(Parser &parser);
-    net::awaitable<void> allowBody(const Parser &parser);
+    net::awaitable<std::optional<Reply>> read(RequestParser &parser);
+    net::awaitable<void> allowBody(const RequestParser &parser);
     net::awaitable<bool> write(Reply &reply, unsigned version);
     net::awaitable<void> close();
     bool isConnected();
-    net::ip::address clientAddress(const Parser &parser) const;
 
     boost::beast::tcp_stream m_stream;
     net::ip::address m_peer;

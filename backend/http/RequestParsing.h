@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "http/Http.h"
+
+#include <boost/beast/http/parser.hpp>
+#include <boost/beast/http/string_body.hpp>
+
+#include <span>
+
+using RequestParser = boost::beast::http::request_parser<boost::beast::http::string_body>;
+
+/// Header lines in bytes, and no body limit until the path is known.
+void limitHeader(RequestParser &parser);
+
+/// A request target without its query.
+std::string pathOf(std::string_view target);
+
+/// An IPv4 address in the form it has without IPv6.
+net::ip::address unmapped(const net::ip::address &address);
+
+/// The client behind `peer`, when that is one of the trusted proxies and says so.
+net::ip::address clientAddress(const RequestParser &parser, const net::ip::address &peer,
+                               std::span<const net::ip::address> trustedProxies);
+
+/// Takes the body out of the parser, which has read it whole.
+Request takeRequest(RequestParser &parser, const net::ip::address &address);
