@@ -51,7 +51,10 @@ int HistoryModel::rowCount(const QModelIndex &parent) const
 
 QVariant HistoryModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    // The store has already changed when the views hear that a row is about to go.
+    const auto &items = m_store.items();
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || placeOf(index.row()) < 0 ||
+        placeOf(index.row()) >= items.size()) {
         return {};
     }
     const Transcription &shown = entry(index.row());
@@ -157,10 +160,14 @@ QVariantList HistoryModel::moveTargets(int row) const
     return targets;
 }
 
+qsizetype HistoryModel::placeOf(int row) const
+{
+    return m_rows ? m_store.items().size() - 1 - qsizetype((*m_rows)[size_t(row)]) : row;
+}
+
 const Transcription &HistoryModel::entry(int row) const
 {
-    const auto &items = m_store.items();
-    return m_rows ? items.at(items.size() - 1 - qsizetype((*m_rows)[size_t(row)])) : items.at(row);
+    return m_store.items().at(placeOf(row));
 }
 
 uint32_t HistoryModel::serialOf(qsizetype place) const
@@ -264,7 +271,7 @@ void HistoryModel::refresh(Rows within)
     if (m_query.isEmpty()) {
         replace(std::move(inGroup));
     } else {
-        index(QDeadlineTimer::Forever);
+        indexTexts(QDeadlineTimer::Forever);
         m_running.emplace(m_index, m_query, std::move(within));
         searchOn(QDeadlineTimer(slice));
     }
@@ -300,15 +307,14 @@ void HistoryModel::removeRow(int row)
     endRemoveRows();
     Q_EMIT rowsChanged();
     if (m_count > 0) { // it may be the last now, and have no rule below it any more
-        Q_EMIT dataChanged(QAbstractListModel::index(m_count - 1), QAbstractListModel::index(m_count - 1),
-                           {ShowDividerRole});
+        Q_EMIT dataChanged(index(m_count - 1), index(m_count - 1), {ShowDividerRole});
     }
 }
 
 void HistoryModel::refreshRole(int role)
 {
     if (m_count > 0) {
-        Q_EMIT dataChanged(QAbstractListModel::index(0), QAbstractListModel::index(m_count - 1), {role});
+        Q_EMIT dataChanged(index(0), index(m_count - 1), {role});
     }
 }
 
@@ -331,7 +337,7 @@ void HistoryModel::startMinute()
 void HistoryModel::work()
 {
     const QDeadlineTimer deadline(slice);
-    index(deadline);
+    indexTexts(deadline);
     if (m_running && !deadline.hasExpired()) {
         searchOn(deadline);
         Q_EMIT isSearchingChanged();
@@ -341,7 +347,7 @@ void HistoryModel::work()
     }
 }
 
-void HistoryModel::index(QDeadlineTimer deadline)
+void HistoryModel::indexTexts(QDeadlineTimer deadline)
 {
     const auto &items = m_store.items();
     while (m_index.count() < items.size()) {

@@ -71,6 +71,8 @@ private:
     /// The serials (SearchIndex) of the rows; nothing stands for all entries.
     using Rows = std::optional<std::vector<uint32_t>>;
 
+    /// The row's place in the store.
+    qsizetype placeOf(int row) const;
     const Transcription &entry(int row) const;
     uint32_t serialOf(qsizetype place) const;
     bool isInGroup(const Transcription &entry) const;
@@ -89,7 +91,7 @@ private:
     void startMinute();
     /// Brings the index up to date, in slices; then goes on with the search.
     void work();
-    void index(QDeadlineTimer deadline);
+    void indexTexts(QDeadlineTimer deadline);
     void searchOn(QDeadlineTimer deadline);
 
     TranscriptionStore &m_store;
