@@ -6,11 +6,8 @@
 
 void AppDelegate::applicationDidFinishLaunching()
 {
-    // The shortcuts first: they are what the user may be waiting for.
-    AppModel &model = m_composition.model();
-    model.start();
+    Composition::registerFonts();
+    // The shortcuts before the views: they are what the user may be waiting for.
+    m_composition.model().start();
     m_composition.prepareViews();
-    if (const auto &error = model.shortcutError()) {
-        model.hud().show(HUDPhase::Message{*error, true}); // a dead shortcut must not be a riddle
-    }
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppModel.h"
 
+#include "app/StoredShortcuts.h"
 #include "platform/Accessibility.h"
-#include "platform/KeyCodes.h"
 #include "platform/Platform.h"
 #include "platform/Preferences.h"
 #include "service/AIConsent.h"
@@ -13,18 +13,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString shortcutKey = u"shortcut.v2"_s;
+using Use = StoredShortcut::Use;
+
 const QString triggerModeKey = u"triggerMode"_s;
-const QString groupShortcutKey = u"groupShortcut"_s;
-const QString historyShortcutKey = u"historyShortcut"_s;
-
-constexpr uint32_t controlOption = HotKeyModifier::control | HotKeyModifier::option;
-
-Shortcut storedShortcut(const Preferences &preferences, const QString &key, const Shortcut &fallback)
-{
-    return Shortcut::fromJson(preferences.data(key).value_or(QByteArray())).value_or(fallback);
-}
-
 TriggerMode storedTriggerMode(const Preferences &preferences)
 {
     const auto stored = preferences.string(triggerModeKey);
@@ -49,12 +40,10 @@ AppModel::AppModel(const Platform &platform, ApiClient &client, AIConsent &conse
       m_freeGrantMissed(platform.preferences.boolean(u"freeGrantMissed"_s)),
       m_isTrusted(platform.accessibility.isTrusted()),
       m_hasConsent(consent.isCurrent()),
-      m_shortcut(storedShortcut(platform.preferences, shortcutKey, defaultShortcut())),
+      m_shortcut(StoredShortcut::read(platform.preferences, Use::Dictation)),
       m_triggerMode(storedTriggerMode(platform.preferences)),
-      m_groupShortcut(
-          storedShortcut(platform.preferences, groupShortcutKey, Shortcut::combo(KeyCode::g, controlOption, u"G"_s))),
-      m_historyShortcut(
-          storedShortcut(platform.preferences, historyShortcutKey, Shortcut::combo(KeyCode::h, controlOption, u"H"_s))),
+      m_groupShortcut(StoredShortcut::read(platform.preferences, Use::Group)),
+      m_historyShortcut(StoredShortcut::read(platform.preferences, Use::History)),
       m_store(platform.files, platform.clock),
       m_groups(platform.files, platform.preferences),
       m_historyWindow(platform.application, platform.preferences, platform.screens, std::move(views.history)),
@@ -90,15 +79,10 @@ void AppModel::start()
     }
 }
 
-Shortcut AppModel::defaultShortcut()
-{
-    return Shortcut::combo(KeyCode::space, controlOption, u"Space"_s);
-}
-
 void AppModel::setShortcut(const Shortcut &shortcut)
 {
     m_shortcut = shortcut;
-    m_platform.preferences.setData(shortcutKey, shortcut.toJson());
+    m_platform.preferences.setData(StoredShortcut::key(Use::Dictation), shortcut.toJson());
     armShortcut();
     if (shortcut.asModifier() != nullptr && !m_isTrusted) {
         m_platform.accessibility.promptForTrust();
@@ -118,7 +102,7 @@ void AppModel::setTriggerMode(TriggerMode mode)
 void AppModel::setGroupShortcut(const Shortcut &shortcut)
 {
     m_groupShortcut = shortcut;
-    m_platform.preferences.setData(groupShortcutKey, shortcut.toJson());
+    m_platform.preferences.setData(StoredShortcut::key(Use::Group), shortcut.toJson());
     armWindowShortcuts();
     Q_EMIT shortcutsChanged();
 }
@@ -126,7 +110,7 @@ void AppModel::setGroupShortcut(const Shortcut &shortcut)
 void AppModel::setHistoryShortcut(const Shortcut &shortcut)
 {
     m_historyShortcut = shortcut;
-    m_platform.preferences.setData(historyShortcutKey, shortcut.toJson());
+    m_platform.preferences.setData(StoredShortcut::key(Use::History), shortcut.toJson());
     armWindowShortcuts();
     Q_EMIT shortcutsChanged();
 }

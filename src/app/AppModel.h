@@ -69,9 +69,13 @@ public:
     /// What the shortcut does next, or what is going on.
     QString statusText() const;
     void handle(ShortcutEvent event);
+    /// A press and a release as if the trigger mode were "toggle": starts a recording that goes on by itself, or ends
+    /// it.
+    void toggleDictation();
+    /// Ends a recording without a transcript, as Esc does; nothing happens otherwise.
+    void cancelDictation() { cancel(false); }
 
     // Settings. A change takes effect and is stored at once.
-    static Shortcut defaultShortcut();
     const Shortcut &shortcut() const { return m_shortcut; }
     void setShortcut(const Shortcut &shortcut);
     TriggerMode triggerMode() const { return m_triggerMode; }

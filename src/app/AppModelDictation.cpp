@@ -71,6 +71,14 @@ void AppModel::handle(ShortcutEvent event)
     }
 }
 
+void AppModel::toggleDictation()
+{
+    handle(ShortcutEvent::Pressed);
+    if (m_state.value == State::Case::Recording && !m_state.handsFree) {
+        continueHandsFree();
+    }
+}
+
 void AppModel::released()
 {
     const bool isTap = m_clock.now() - m_state.startedAt < holdThreshold;

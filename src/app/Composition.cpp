@@ -3,29 +3,25 @@
 
 #include "app/AppModel.h"
 #include "app/MenuBarExtra.h"
+#include "app/Services.h"
 #include "app/ViewModel.h"
 #include "platform/Platform.h"
 #include "platform/StatusPanel.h"
 #include "platform/audio/PulseMicrophone.h"
 #include "platform/freedesktop/AutostartEntry.h"
 #include "platform/freedesktop/DesktopWorkspace.h"
-#include "platform/freedesktop/IniPreferences.h"
-#include "platform/freedesktop/LibsecretStore.h"
-#include "platform/freedesktop/ResourceInfo.h"
-#include "platform/freedesktop/SystemClock.h"
-#include "platform/freedesktop/XdgFiles.h"
 #include "platform/tray/TrayItem.h"
 #include "platform/x11/TerminalClasses.h"
 #include "platform/x11/X11Backend.h"
-#include "service/AIConsent.h"
-#include "service/ApiClient.h"
 #include "ui/ConsentView.h"
 #include "ui/HUDWindow.h"
+#include "ui/Paper.h"
+#include "ui/WindowViews.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QQmlEngine>
-#include <QQuickView>
+#include <QWindow>
 
 #include <utility>
 
@@ -40,24 +36,34 @@ QStringList terminalClasses(const Preferences &preferences)
     return chosen ? chosen->split(u' ', Qt::SkipEmptyParts) : TerminalClasses::defaults();
 }
 
+/// What the recorders of the settings window do to the controller.
+SettingsModel::Shortcuts recordingShortcuts(AppModel &model)
+{
+    return {
+        .disarm = [&model] { model.disarmShortcuts(); },
+        .arm =
+            [&model] {
+                model.armShortcut();
+                model.armWindowShortcuts();
+            },
+        .setShortcut = [&model](const Shortcut &shortcut) { model.setShortcut(shortcut); },
+        .setGroupShortcut = [&model](const Shortcut &shortcut) { model.setGroupShortcut(shortcut); },
+        .setHistoryShortcut = [&model](const Shortcut &shortcut) { model.setHistoryShortcut(shortcut); },
+    };
+}
+
 } // namespace
 
 // In the order of dependence: what is destroyed last stands first.
 struct Composition::Parts {
-    SystemClock clock;
-    IniPreferences preferences{IniPreferences::defaultPath()};
-    XdgFiles files;
-    LibsecretStore secrets;
-    ResourceInfo packagedInfo{ResourceInfo::defaultFolder()};
+    Services services;
     DesktopWorkspace workspace;
     AutostartEntry loginItem{QCoreApplication::applicationFilePath()};
-    TrayItem statusItem{clock, QDBusConnection::sessionBus()};
-    PulseMicrophone microphone{clock};
+    TrayItem statusItem{services.clock, QDBusConnection::sessionBus()};
+    PulseMicrophone microphone{services.clock};
     std::unique_ptr<X11Backend> desktop;
     std::optional<Platform> platform;
 
-    AIConsent consent{preferences, clock};
-    ApiClient client{preferences, packagedInfo, secrets, consent};
     QQmlEngine engine;
     std::unique_ptr<StatusPanel> preparedPanel;
     std::optional<AppModel> model;
@@ -68,7 +74,7 @@ struct Composition::Parts {
 std::unique_ptr<Composition> Composition::create(QString *whyNot)
 {
     auto parts = std::make_unique<Parts>();
-    parts->desktop = X11Backend::create(parts->clock, terminalClasses(parts->preferences), whyNot);
+    parts->desktop = X11Backend::create(parts->services.clock, terminalClasses(parts->services.preferences), whyNot);
     if (!parts->desktop) {
         return nullptr;
     }
@@ -80,20 +86,29 @@ Composition::Composition(std::unique_ptr<Parts> parts) : m_parts(std::move(parts
     Parts &p = *m_parts;
     X11Backend &x11 = *p.desktop;
     x11.setClosedHandler([] { QCoreApplication::quit(); });
-    p.platform.emplace(Platform{x11.accessibility(), x11.application(), p.clock, p.files, x11.hotKeys(),
-                                x11.keyEvents(), x11.keyMonitors(), p.loginItem, p.microphone, p.packagedInfo,
-                                x11.pasteboard(), p.preferences, x11.screens(), p.secrets, p.statusItem,
-                                x11.statusPanels(), p.workspace});
-    p.model.emplace(*p.platform, p.client, p.consent,
+    p.platform.emplace(Platform{x11.accessibility(), x11.application(), p.services.clock, p.services.files,
+                                x11.hotKeys(), x11.keyEvents(), x11.keyMonitors(), p.loginItem, p.microphone,
+                                p.services.packagedInfo, x11.pasteboard(), p.services.preferences, x11.screens(),
+                                p.services.secrets, p.statusItem, x11.statusPanels(), p.workspace});
+    p.model.emplace(*p.platform, p.services.client, p.services.consent,
                     AppModel::Views{
                         .hud =
                             [&p](HUDModel &hud) {
                                 return p.preparedPanel ? std::move(p.preparedPanel)
                                                        : makeHUDPanel(p.engine, p.platform->statusPanels, hud);
                             },
-                        .history = [](HistoryWindow &) { return std::make_unique<QWindow>(); },
+                        .history =
+                            [&p](HistoryWindow &window) {
+                                return makeHistoryWindow(p.engine, *p.viewModel, p.model->store(), p.model->groups(),
+                                                         window, p.platform->pasteboard, p.platform->clock);
+                            },
                         .consent = [&p](DisclosureView &disclosure) { return makeConsentWindow(p.engine, disclosure); },
-                        .settings = [] { return std::make_unique<QWindow>(); },
+                        .settings =
+                            [&p] {
+                                return makeSettingsWindow(p.engine, *p.viewModel, p.model->store(), p.model->groups(),
+                                                          p.platform->packagedInfo, p.platform->keyMonitors,
+                                                          recordingShortcuts(*p.model));
+                            },
                     });
     p.viewModel.emplace(*p.model);
     p.menuBarExtra.emplace(*p.model, *p.platform);
@@ -107,6 +122,16 @@ Composition::~Composition()
 AppModel &Composition::model()
 {
     return *m_parts->model;
+}
+
+const Platform &Composition::platform() const
+{
+    return *m_parts->platform;
+}
+
+void Composition::registerFonts()
+{
+    Paper::registerFonts(ResourceInfo::defaultFolder());
 }
 
 void Composition::prepareViews()

@@ -6,6 +6,7 @@
 #include <memory>
 
 class AppModel;
+struct Platform;
 
 /// Everything the program is made of, built once: the desktop's services, the controller on top of them, and the
 /// views' engine. Main thread only; a QGuiApplication exists for as long as it lives.
@@ -19,6 +20,10 @@ public:
     ~Composition();
 
     AppModel &model();
+    const Platform &platform() const;
+
+    /// Makes the packaged fonts known to the views; before any is made.
+    static void registerFonts();
 
     /// Loads the views, so that the first HUD appears as fast as the later ones.
     void prepareViews();

@@ -5,7 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-std::optional<QString> DisplayChoice::prepare()
+std::optional<QString> DisplayChoice::refusal()
 {
     const QString chosen = qEnvironmentVariable("QUILLO_PLATFORM");
     if (!chosen.isEmpty() && chosen != u"x11" && chosen != u"wayland") {
@@ -22,6 +22,10 @@ std::optional<QString> DisplayChoice::prepare()
     if (!X11Backend::canConnect()) {
         return u"The X11 display %1 can't be reached."_s.arg(qEnvironmentVariable("DISPLAY"));
     }
-    qputenv("QT_QPA_PLATFORM", "xcb");
     return std::nullopt;
+}
+
+void DisplayChoice::prepare()
+{
+    qputenv("QT_QPA_PLATFORM", "xcb");
 }

@@ -8,7 +8,9 @@
 /// Which display the program runs on: $QUILLO_PLATFORM (x11 or wayland), else what the session offers.
 class DisplayChoice {
 public:
-    /// Points Qt at the display; to be called before the QGuiApplication exists. A sentence for the user when there is
-    /// no display the program can run on.
-    static std::optional<QString> prepare();
+    /// A sentence for the user when there is no display the program can run on. May be called before there is a
+    /// QGuiApplication.
+    static std::optional<QString> refusal();
+    /// Points Qt at the display; to be called before the QGuiApplication exists.
+    static void prepare();
 };

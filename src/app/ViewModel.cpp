@@ -2,11 +2,10 @@
 #include "app/ViewModel.h"
 
 #include "app/AppModel.h"
+#include "app/StateName.h"
+#include "app/StoredShortcuts.h"
 
 #include <algorithm>
-#include <array>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -47,8 +46,7 @@ ViewModel::ViewModel(AppModel &model) : m_model(model)
 
 QString ViewModel::state() const
 {
-    static const std::array names{u"idle"_s, u"recording"_s, u"transcribing"_s}; // in the order of State::Case
-    return names.at(static_cast<size_t>(m_model.state().value));
+    return stateName(m_model.state());
 }
 
 QString ViewModel::statusText() const
@@ -107,7 +105,7 @@ void ViewModel::setSingleKey(int place)
 {
     m_model.setShortcut(has(modifierKeys(), place)
                             ? Shortcut::modifier(modifierKeys().at(static_cast<size_t>(place)).key)
-                            : AppModel::defaultShortcut());
+                            : StoredShortcut::standard(StoredShortcut::Use::Dictation));
 }
 
 QStringList ViewModel::singleKeyLabels()

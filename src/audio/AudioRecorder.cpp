@@ -12,21 +12,22 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
+AudioRecorder::AudioRecorder(Microphone &microphone, const Files &files) : m_microphone(microphone), m_files(files) {}
 
-AudioSettings settings()
+AudioSettings AudioRecorder::settings()
 {
     return {.formatId = "aac ", .sampleRate = 44100, .channels = 1, .bitRate = 64000};
 }
 
-} // namespace
-
-AudioRecorder::AudioRecorder(Microphone &microphone, const Files &files) : m_microphone(microphone), m_files(files) {}
+QString AudioRecorder::newPath(const Files &files)
+{
+    const QString name = u"dictation-"_s + QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper() + u".m4a"_s;
+    return files.temporaryFolder() + u'/' + name;
+}
 
 void AudioRecorder::start(std::function<void()> onEnded)
 {
-    const QString name = u"dictation-"_s + QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper() + u".m4a"_s;
-    const QString path = m_files.temporaryFolder() + u'/' + name;
+    const QString path = newPath(m_files);
     auto recorder = m_microphone.makeRecorder(path, settings());
     recorder->setMeteringEnabled(true);
     recorder->setEndedHandler(std::move(onEnded));

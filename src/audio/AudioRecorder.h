@@ -25,10 +25,15 @@ public:
 
     AudioRecorder(Microphone &microphone, const Files &files);
 
+    /// What recordings are encoded to: AAC, mono, 44.1 kHz, 64 kbit/s.
+    static AudioSettings settings();
+    /// A new name in the temporary folder, "dictation-<UUID>.m4a".
+    static QString newPath(const Files &files);
+
     /// The recording in progress, for its level; null when idle.
     AudioFileRecorder *recorder() const { return m_recorder.get(); }
 
-    /// Starts a recording to a new file "dictation-<UUID>.m4a". `onEnded` is called when the microphone goes away
+    /// Starts a recording to a new file. `onEnded` is called when the microphone goes away
     /// before `stop()`. Throws LocalizedError when there is nothing to record from.
     void start(std::function<void()> onEnded);
 

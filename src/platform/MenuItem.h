@@ -8,8 +8,8 @@
 #include <functional>
 #include <optional>
 
-/// A menu's key equivalent: one character, lower case; for Return "\r", Tab "\t", Delete "\b", and for the arrow keys the
-/// arrow characters.
+/// A menu's key equivalent: one character, lower case; for Return "\r", Tab "\t", Delete "\b", and for the arrow keys
+/// the arrow characters.
 struct MenuShortcut {
     QString key;
     /// Hot-key masks (KeyCodes.h).

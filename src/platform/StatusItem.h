@@ -3,8 +3,8 @@
 
 #include "platform/MenuItem.h"
 
-/// The program's item in the desktop's panel, with a pull-down menu. It shows itself where and when there is a panel for
-/// it, also one that comes later. Main thread only; actions are called from the event loop.
+/// The program's item in the desktop's panel, with a pull-down menu. It shows itself where and when there is a panel
+/// for it, also one that comes later. Main thread only; actions are called from the event loop.
 class StatusItem {
 public:
     virtual ~StatusItem() = default;

@@ -19,23 +19,6 @@ namespace {
 
 const QString credentialAccount = u"apiDeviceCredential"_s;
 
-std::optional<QUrl> baseUrl(const Preferences &preferences, const PackagedInfo &info)
-{
-    auto text = preferences.string(u"apiURL"_s);
-    if (!text) {
-        text = info.string(u"QLOApiURL"_s);
-    }
-    QStringView trimmed = text ? QStringView(*text) : QStringView();
-    while (trimmed.startsWith(u'/')) {
-        trimmed = trimmed.sliced(1);
-    }
-    while (trimmed.endsWith(u'/')) {
-        trimmed.chop(1);
-    }
-    const QUrl url(trimmed.toString(), QUrl::StrictMode);
-    return url.isValid() && !url.isEmpty() ? std::optional(url) : std::nullopt;
-}
-
 template <typename Record> std::optional<Record> decoded(const QByteArray &body)
 {
     const QJsonDocument document = QJsonDocument::fromJson(body);
@@ -60,6 +43,23 @@ ApiClient::ApiClient(Preferences &preferences, const PackagedInfo &info, SecretS
       m_transport(timeout),
       m_baseUrl(baseUrl(preferences, info))
 {
+}
+
+std::optional<QUrl> ApiClient::baseUrl(const Preferences &preferences, const PackagedInfo &info)
+{
+    auto text = preferences.string(u"apiURL"_s);
+    if (!text) {
+        text = info.string(u"QLOApiURL"_s);
+    }
+    QStringView trimmed = text ? QStringView(*text) : QStringView();
+    while (trimmed.startsWith(u'/')) {
+        trimmed = trimmed.sliced(1);
+    }
+    while (trimmed.endsWith(u'/')) {
+        trimmed.chop(1);
+    }
+    const QUrl url(trimmed.toString(), QUrl::StrictMode);
+    return url.isValid() && !url.isEmpty() ? std::optional(url) : std::nullopt;
 }
 
 QCoro::Task<Transcript> ApiClient::transcribe(QString filePath)

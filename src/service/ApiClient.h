@@ -30,6 +30,9 @@ public:
     ApiClient(Preferences &preferences, const PackagedInfo &info, SecretStore &secrets, const AIConsent &consent,
               std::chrono::milliseconds timeout = requestTimeout);
 
+    /// Where the backend is; nothing when no usable address is configured.
+    static std::optional<QUrl> baseUrl(const Preferences &preferences, const PackagedInfo &info);
+
     /// Uploads a recording, once. The file is neither changed nor deleted.
     QCoro::Task<Transcript> transcribe(QString filePath);
 

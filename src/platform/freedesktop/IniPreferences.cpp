@@ -12,6 +12,24 @@ QString IniPreferences::defaultPath()
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/Quillo/Quillo.conf"_s;
 }
 
+Finding IniPreferences::examine() const
+{
+    const QString subject = u"Preferences"_s;
+    m_settings.sync();
+    const QString path = m_settings.fileName();
+    switch (m_settings.status()) {
+    case QSettings::AccessError:
+        return {subject, Finding::Level::Note, path + u" can't be read or written"_s,
+                u"make it yours: chown and chmod u+rw"_s};
+    case QSettings::FormatError:
+        return {subject, Finding::Level::Note, path + u" is damaged: what can't be read counts as not set"_s,
+                u"mend the file or move it away"_s};
+    case QSettings::NoError:
+        break;
+    }
+    return {subject, Finding::Level::Good, path};
+}
+
 std::optional<QByteArray> IniPreferences::data(const QString &key) const
 {
     const QVariant stored = value(key);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/Finding.h"
 #include "platform/Preferences.h"
 
 #include <QSettings>
@@ -13,6 +14,9 @@ public:
 
     /// Where the program's preferences are: Quillo/Quillo.conf in the user's configuration folder.
     static QString defaultPath();
+
+    /// Whether the file can be used. One that can't is left as it is: defaults hold, and changes last until the end.
+    Finding examine() const;
 
     std::optional<QByteArray> data(const QString &key) const override;
     std::optional<QString> string(const QString &key) const override;

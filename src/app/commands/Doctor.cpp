@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+#include "app/commands/Doctor.h"
+
+#include "app/DisplayChoice.h"
+#include "app/Services.h"
+#include "app/StoredShortcuts.h"
+#include "app/commands/CommandLine.h"
+#include "app/commands/Output.h"
+#include "app/remote/RemoteControl.h"
+#include "audio/AudioRecorder.h"
+#include "platform/Finding.h"
+#include "platform/audio/SoundExamination.h"
+#include "platform/freedesktop/SecretExamination.h"
+#include "platform/tray/TrayExamination.h"
+#include "platform/x11/TerminalClasses.h"
+#include "platform/x11/X11Backend.h"
+#include "service/HttpTransport.h"
+#include "shortcuts/CarbonHotKey.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDir>
+#include <QFontDatabase>
+#include <QJsonDocument>
+#include <QTimer>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Level = Finding::Level;
+using Use = StoredShortcut::Use;
+
+constexpr auto backendPatience = std::chrono::seconds(10);
+
+bool isRunning()
+{
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    return bus.isConnected() && bus.interface()->isServiceRegistered(RemoteControl::service()).value();
+}
+
+Finding busFinding()
+{
+    const QString subject = u"Session bus"_s;
+    if (!QDBusConnection::sessionBus().isConnected()) {
+        return {subject, Level::Note, u"none: no tray item, no keyring, no commands"_s,
+                u"log in through a desktop session, or start one with dbus-run-session"_s};
+    }
+    return {subject, Level::Good, isRunning() ? u"there; Quillo is running"_s : u"there; Quillo isn't running"_s};
+}
+
+/// Whether the shortcuts can be had. A running Quillo has them already, and its menu says which it could not get.
+QList<Finding> hotKeyFindings(X11Backend &x11, const Preferences &preferences)
+{
+    if (isRunning()) {
+        return {{u"Hot keys"_s, Level::Good, u"held by the running Quillo; see: quillo status"_s}};
+    }
+    QList<Finding> findings;
+    for (const Use use : {Use::Dictation, Use::Group, Use::History}) {
+        const Shortcut shortcut = StoredShortcut::read(preferences, use);
+        const Shortcut::Combo *combo = shortcut.asCombo();
+        if (combo == nullptr) {
+            continue; // raw keys, whose line says whether they can be had
+        }
+        const bool isFree =
+            CarbonHotKey::create(x11.hotKeys(), combo->keyCode, combo->modifiers, [](bool) {}) != nullptr;
+        const Level ifTaken = use == Use::Dictation ? Level::Problem : Level::Note;
+        findings.append(isFree ? Finding{u"Hot key"_s, Level::Good, shortcut.label() + u" is free"_s}
+                               : Finding{u"Hot key"_s, ifTaken, shortcut.label() + u" is taken by another program"_s,
+                                         u"choose another one in the settings"_s});
+    }
+    return findings;
+}
+
+QList<Finding> displayFindings(Services &services)
+{
+    if (const auto refusal = DisplayChoice::refusal()) {
+        return {{u"Display server"_s, Level::Problem, *refusal, u"log in to an X11 session"_s}};
+    }
+    QString whyNot;
+    const auto x11 = X11Backend::create(services.clock, TerminalClasses::defaults(), &whyNot);
+    if (!x11) {
+        return {{u"Display server"_s, Level::Problem, whyNot, u"log in to an X11 session"_s}};
+    }
+    QList<Finding> findings = x11->examine();
+    findings.append(hotKeyFindings(*x11, services.preferences));
+    return findings;
+}
+
+QCoro::Task<Finding> backendFinding(Services &services)
+{
+    const QString subject = u"Backend"_s;
+    const auto address = ApiClient::baseUrl(services.preferences, services.packagedInfo);
+    if (!address) {
+        co_return Finding{subject, Level::Problem, u"no usable address"_s,
+                          u"set apiURL in %1"_s.arg(IniPreferences::defaultPath())};
+    }
+    QUrl url = *address;
+    url.setPath(url.path() + u"/v1/balance"_s);
+    HttpTransport transport(backendPatience);
+    HttpRequest request{"GET", url};
+    const std::optional<HttpResponse> response = co_await transport.perform(std::move(request));
+    const QString where = address->toString(QUrl::RemoveUserInfo);
+    if (!response) {
+        co_return Finding{subject, Level::Problem, where + u" does not answer"_s,
+                          u"check the network; a server of your own is started with quillo-backend"_s};
+    }
+    // Without a credential the backend of this program answers 401 with an error document.
+    constexpr int unauthorized = 401;
+    const bool isOurs = response->status == unauthorized && QJsonDocument::fromJson(response->body).isObject();
+    co_return isOurs ? Finding{subject, Level::Good, where + u" answers"_s}
+                     : Finding{subject, Level::Problem,
+                               u"%1 answers %2, which no Quillo backend does"_s.arg(where).arg(response->status),
+                               u"check apiURL in %1"_s.arg(IniPreferences::defaultPath())};
+}
+
+Finding consentFinding(const AIConsent &consent)
+{
+    return consent.isCurrent()
+               ? Finding{u"Consent"_s, Level::Good, u"given"_s}
+               : Finding{u"Consent"_s, Level::Note, u"not given: dictation stays off"_s, u"start Quillo and agree"_s};
+}
+
+Finding fontFinding()
+{
+    const QStringList families = QFontDatabase::families();
+    const bool hasFraunces =
+        std::ranges::any_of(families, [](const QString &name) { return name.startsWith(u"Fraunces"); });
+    const bool hasSans = families.contains(u"Liberation Sans");
+    if (!hasSans) {
+        return {u"Fonts"_s, Level::Note, u"Liberation Sans is missing: another face stands in"_s,
+                u"install fonts-liberation"_s};
+    }
+    return {u"Fonts"_s, Level::Good,
+            hasFraunces ? u"Liberation Sans, Fraunces"_s
+                        : u"Liberation Sans; the system serif stands in for Fraunces"_s};
+}
+
+void print(const Finding &finding)
+{
+    const QString mark = finding.level == Level::Good   ? u"ok"_s
+                         : finding.level == Level::Note ? u"note"_s
+                                                        : u"MISSING"_s;
+    QString line = u"%1 %2 %3\n"_s.arg(mark, -8).arg(finding.subject + u':', -18).arg(finding.text);
+    if (!finding.remedy.isEmpty()) {
+        line += u"%1 → %2\n"_s.arg(u""_s, 27).arg(finding.remedy);
+    }
+    Output::print(line);
+}
+
+QCoro::Task<void> examine(Services &services)
+{
+    bool isFit = true;
+    const auto tell = [&isFit](const QList<Finding> &findings) {
+        for (const Finding &finding : findings) {
+            print(finding);
+            isFit = isFit && finding.level != Level::Problem;
+        }
+    };
+    const QList<Finding> display = displayFindings(services);
+    const bool hasXEmbed =
+        std::ranges::any_of(display, [](const Finding &row) { return row.subject == u"XEmbed tray"; });
+    tell(display);
+    tell({busFinding(), examineTray(QDBusConnection::sessionBus(), hasXEmbed)});
+    const QString path = AudioRecorder::newPath(services.files);
+    const AudioSettings settings = AudioRecorder::settings();
+    const QList<Finding> sound = co_await examineSound(services.clock, path, settings);
+    tell(sound);
+    tell({examineSecretService(), services.preferences.examine(), consentFinding(services.consent)});
+    const Finding backend = co_await backendFinding(services);
+    tell({backend, fontFinding()});
+    Output::print(isFit ? u"\nDictation can work here.\n"_s : u"\nDictation can't work here yet.\n"_s);
+    QCoreApplication::exit(isFit ? ExitStatus::done : ExitStatus::failed);
+}
+
+} // namespace
+
+int doctorCommand()
+{
+    Services services;
+    QTimer::singleShot(0, qApp, [&services] { examine(services); });
+    return QCoreApplication::exec();
+}

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "app/remote/RemoteControl.h"
+
+#include "app/AppModel.h"
+#include "app/StateName.h"
+#include "app/remote/RemoteInterfaces.h"
+#include "platform/Application.h"
+
+#include <QDBusConnectionInterface>
+
+using namespace Qt::StringLiterals;
+
+RemoteControl::RemoteControl(QDBusConnection bus) : m_bus(std::move(bus)), m_interface(new RemoteInterface(*this))
+{
+    new ApplicationInterface(*this); // a child, like every adaptor
+}
+
+RemoteControl::~RemoteControl()
+{
+    if (m_bus.isConnected()) {
+        m_bus.unregisterService(service());
+        m_bus.unregisterObject(path());
+    }
+}
+
+RemoteControl::Claim RemoteControl::claim()
+{
+    if (!m_bus.isConnected()) {
+        return Claim::NoBus;
+    }
+    // The object first: whoever finds the name taken calls it at once.
+    m_bus.registerObject(path(), this);
+    const auto reply = m_bus.interface()->registerService(service(), QDBusConnectionInterface::DontQueueService,
+                                                          QDBusConnectionInterface::DontAllowReplacement);
+    const bool isFirst = reply.isValid() && reply.value() == QDBusConnectionInterface::ServiceRegistered;
+    return isFirst ? Claim::IsFirst : Claim::IsSecond;
+}
+
+void RemoteControl::setTarget(AppModel &model, Application &application)
+{
+    m_model = &model;
+    m_actions = {
+        {u"press"_s, [this] { press(); }},
+        {u"release"_s, [this] { release(); }},
+        {u"toggle"_s, [&model] { model.toggleDictation(); }},
+        {u"cancel"_s, [&model] { model.cancelDictation(); }},
+        {u"history"_s, [&model] { model.historyWindow().show(false); }},
+        {u"edit-groups"_s, [&model] { model.historyWindow().show(true); }},
+        {u"settings"_s, [&model] { model.settingsWindow().show(); }},
+        {u"next-group"_s, [&model] { model.cycleGroup(true); }},
+        {u"buy-tokens"_s, [&model] { model.buyTokens(); }},
+        {u"quit"_s, [&application] { application.terminate(); }},
+    };
+    connect(&model, &AppModel::stateChanged, this, [this, &model] {
+        if (model.state().value == AppModel::State::Case::Idle) {
+            m_isHeld = false; // the dictation that the press began is over, however it ended
+        }
+        Q_EMIT m_interface->StateChanged(stateName(model.state()));
+    });
+}
+
+void RemoteControl::clearTarget()
+{
+    m_actions.clear();
+    m_model = nullptr;
+}
+
+bool RemoteControl::perform(const QString &action)
+{
+    const auto found = m_actions.find(action);
+    if (found == m_actions.end()) {
+        return false;
+    }
+    found->second();
+    return true;
+}
+
+void RemoteControl::activate()
+{
+    if (m_model != nullptr) {
+        m_model->historyWindow().show(false);
+    }
+}
+
+void RemoteControl::press()
+{
+    if (!m_isHeld) { // a second press is the key's auto-repeat
+        m_isHeld = true;
+        m_model->handle(ShortcutEvent::Pressed);
+    }
+}
+
+void RemoteControl::release()
+{
+    if (m_isHeld) {
+        m_isHeld = false;
+        m_model->handle(ShortcutEvent::Released);
+    }
+}
+
+QVariantMap RemoteControl::status() const
+{
+    if (m_model == nullptr) {
+        return {};
+    }
+    AppModel &model = *m_model;
+    QVariantMap values{
+        {u"state"_s, stateName(model.state())},
+        {u"status"_s, model.statusText()},
+        {u"unmetered"_s, model.isUnmetered()},
+        {u"microphone"_s, model.microphone() == AudioRecorder::Permission::Granted},
+        {u"accessibility"_s, model.isTrusted()},
+        {u"consent"_s, model.hasConsent()},
+        {u"historyVisible"_s, model.historyWindow().isVisible()},
+        {u"transcripts"_s, static_cast<int>(model.store().items().size())},
+    };
+    if (const auto group = model.groups().group(model.groups().activeId())) {
+        values.insert(u"group"_s, group->name);
+    }
+    if (const auto balance = model.balance()) {
+        values.insert(u"balance"_s, QVariant::fromValue<qlonglong>(*balance));
+    }
+    for (const auto &[name, error] : {std::pair(u"shortcutError"_s, model.shortcutError()),
+                                      std::pair(u"groupShortcutError"_s, model.groupShortcutError()),
+                                      std::pair(u"historyShortcutError"_s, model.historyShortcutError())}) {
+        if (error) {
+            values.insert(name, *error);
+        }
+    }
+    return values;
+}
+
+void RemoteControl::refuse(const QString &action)
+{
+    if (calledFromDBus()) {
+        sendErrorReply(QDBusError::InvalidArgs, u"There is no action \"%1\"."_s.arg(action));
+    }
+}

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "platform/audio/LibavSoundFiles.h"
+
+#include "platform/LocalizedError.h"
+#include "platform/audio/AacFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <vector>
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
+#include <libswresample/swresample.h>
+}
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Release {
+    void operator()(AVFormatContext *input) const { avformat_close_input(&input); }
+    void operator()(AVCodecContext *decoder) const { avcodec_free_context(&decoder); }
+    void operator()(AVPacket *packet) const { av_packet_free(&packet); }
+    void operator()(AVFrame *frame) const { av_frame_free(&frame); }
+    void operator()(SwrContext *resampler) const { swr_free(&resampler); }
+};
+template <typename T> using Handle = std::unique_ptr<T, Release>;
+
+/// One audio stream of a file, decoded to mono samples of -1 to 1.
+class SoundReader {
+public:
+    SoundReader(const QString &path, int sampleRate) : m_name(QFileInfo(path).fileName()), m_sampleRate(sampleRate)
+    {
+        AVFormatContext *input = nullptr;
+        // As a file, whatever the name looks like: a colon would make it an address.
+        const QByteArray address = "file:" + QFile::encodeName(path);
+        if (avformat_open_input(&input, address.constData(), nullptr, nullptr) < 0) {
+            throw LocalizedError(u"%1 is no sound file that can be read."_s.arg(m_name));
+        }
+        m_input.reset(input);
+        avformat_find_stream_info(input, nullptr);
+        const AVCodec *codec = nullptr;
+        m_stream = av_find_best_stream(input, AVMEDIA_TYPE_AUDIO, -1, -1, &codec, 0);
+        if (m_stream < 0) {
+            throw LocalizedError(u"There is no sound in %1."_s.arg(m_name));
+        }
+        m_decoder.reset(avcodec_alloc_context3(codec));
+        if (!m_decoder || avcodec_parameters_to_context(m_decoder.get(), stream().codecpar) < 0 ||
+            avcodec_open2(m_decoder.get(), codec, nullptr) < 0) {
+            throw LocalizedError(u"The sound of %1 can't be decoded."_s.arg(m_name));
+        }
+    }
+
+    /// Calls back with one piece after the other; false from it stops the reading, and then from here.
+    template <typename Take> bool read(const Take &take, const SoundFiles::Progress &progress)
+    {
+        const Handle<AVPacket> packet(av_packet_alloc());
+        while (av_read_frame(m_input.get(), packet.get()) >= 0) {
+            const bool isSound = packet->stream_index == m_stream;
+            if (isSound) {
+                if (!progress(partUntil(*packet))) {
+                    throw LocalizedError(u"Stopped."_s);
+                }
+                avcodec_send_packet(m_decoder.get(), packet.get()); // a damaged packet is left out
+            }
+            av_packet_unref(packet.get());
+            if (isSound && !drain(take)) {
+                return false;
+            }
+        }
+        avcodec_send_packet(m_decoder.get(), nullptr);
+        return drain(take) && convert(nullptr, take);
+    }
+
+private:
+    const AVStream &stream() const { return *m_input->streams[m_stream]; }
+
+    double partUntil(const AVPacket &packet) const
+    {
+        const auto length = static_cast<double>(m_input->duration);
+        const bool isKnown = length > 0 && packet.pts != AV_NOPTS_VALUE;
+        return isKnown ? static_cast<double>(packet.pts) * av_q2d(stream().time_base) * AV_TIME_BASE / length : -1;
+    }
+
+    template <typename Take> bool drain(const Take &take)
+    {
+        while (avcodec_receive_frame(m_decoder.get(), m_frame.get()) >= 0) {
+            if (!convert(m_frame.get(), take)) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    /// Without a frame: what the resampler still holds.
+    template <typename Take> bool convert(const AVFrame *frame, const Take &take)
+    {
+        if (frame != nullptr && !m_resampler) {
+            openResampler(*frame);
+        }
+        if (!m_resampler) {
+            return true;
+        }
+        const int incoming = frame != nullptr ? frame->nb_samples : 0;
+        m_samples.resize(static_cast<size_t>(swr_get_out_samples(m_resampler.get(), incoming)));
+        auto *out = reinterpret_cast<uint8_t *>(m_samples.data());
+        const int count =
+            swr_convert(m_resampler.get(), &out, static_cast<int>(m_samples.size()),
+                        frame != nullptr ? const_cast<const uint8_t **>(frame->extended_data) : nullptr, incoming);
+        return count <= 0 || take(std::span<const float>(m_samples.data(), static_cast<size_t>(count)));
+    }
+
+    void openResampler(const AVFrame &frame)
+    {
+        AVChannelLayout mono;
+        av_channel_layout_default(&mono, 1);
+        AVChannelLayout from = {};
+        av_channel_layout_copy(&from, &frame.ch_layout);
+        SwrContext *resampler = nullptr;
+        const int made = swr_alloc_set_opts2(&resampler, &mono, AV_SAMPLE_FMT_FLT, m_sampleRate, &from,
+                                             static_cast<AVSampleFormat>(frame.format), frame.sample_rate, 0, nullptr);
+        av_channel_layout_uninit(&from);
+        m_resampler.reset(resampler);
+        if (made < 0 || swr_init(resampler) < 0) {
+            throw LocalizedError(u"The sound of %1 can't be converted."_s.arg(m_name));
+        }
+    }
+
+    QString m_name;
+    int m_sampleRate;
+    int m_stream = -1;
+    Handle<AVFormatContext> m_input;
+    Handle<AVCodecContext> m_decoder;
+    Handle<SwrContext> m_resampler;
+    Handle<AVFrame> m_frame{av_frame_alloc()};
+    std::vector<float> m_samples;
+};
+
+} // namespace
+
+void LibavSoundFiles::convert(const QString &source, const QString &destination, const AudioSettings &settings,
+                              const Progress &progress)
+{
+    if (const QFile file(source); !file.exists()) {
+        throw LocalizedError(u"There is no file %1."_s.arg(source));
+    }
+    av_log_set_level(AV_LOG_FATAL); // what is wrong with a file is said in our own words
+    SoundReader reader(source, settings.sampleRate);
+    AacFile file(destination, settings);
+    bool hasSound = false;
+    try {
+        const bool isWritten = reader.read(
+            [&](std::span<const float> samples) {
+                hasSound = true;
+                return file.write(samples);
+            },
+            progress);
+        if (!isWritten) {
+            throw LocalizedError(u"The converted recording can't be written."_s);
+        }
+        if (!hasSound) {
+            throw LocalizedError(u"There is no sound in %1."_s.arg(QFileInfo(source).fileName()));
+        }
+    } catch (const LocalizedError &) {
+        file.remove();
+        throw;
+    }
+    file.finish();
+    if (QFileInfo(destination).size() == 0) {
+        file.remove();
+        throw LocalizedError(u"The converted recording can't be written."_s);
+    }
+}

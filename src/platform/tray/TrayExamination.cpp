@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "platform/tray/TrayExamination.h"
+
+#include <QDBusInterface>
+
+using namespace Qt::StringLiterals;
+
+Finding examineTray(const QDBusConnection &bus, bool hasOtherTray)
+{
+    const QString subject = u"Tray"_s;
+    const QString watcher = u"org.kde.StatusNotifierWatcher"_s;
+    const QDBusInterface host(watcher, u"/StatusNotifierWatcher"_s, watcher, bus);
+    if (host.property("IsStatusNotifierHostRegistered").toBool()) {
+        return {subject, Finding::Level::Good, u"StatusNotifierItem"_s};
+    }
+    if (hasOtherTray) {
+        return {subject, Finding::Level::Good, u"XEmbed"_s};
+    }
+    return {subject, Finding::Level::Note, u"none on this desktop"_s,
+            u"start quillo again for the history, use its commands (quillo --help), or add a tray to the panel"_s};
+}
