@@ -90,10 +90,10 @@ void allowManyConnections()
 
 } // namespace
 
-Backend::Backend(const Settings &settings)
+Backend::Backend(const Settings &settings, std::unique_ptr<Engine> engine)
     : m_signals(m_io, SIGTERM, SIGINT),
       m_store(withFolder(settings.database), settings.grants, systemClock()),
-      m_transcriber(makeEngine(settings), longestRecording, settings.engineQueue),
+      m_transcriber(std::move(engine), longestRecording, settings.engineQueue),
       m_acceptor(listen(m_io, settings.endpoint)),
       m_url(urlOf(m_acceptor.local_endpoint())),
       m_api(withPublicUrl(settings.api, m_url), m_store, m_transcriber, systemClock()),

@@ -6,12 +6,14 @@
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/signal_set.hpp>
 
+#include <memory>
+
 /// The whole server, built once from its settings.
 class Backend {
 public:
     /// Opens the database and listens: on the socket that systemd passed, if it did, otherwise on the settings'
     /// endpoint. Throws std::exception with a text for the operator.
-    explicit Backend(const Settings &settings);
+    Backend(const Settings &settings, std::unique_ptr<Engine> engine);
 
     /// Where it listens, such as "http://127.0.0.1:8791".
     std::string url() const { return m_url; }

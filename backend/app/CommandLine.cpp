@@ -2,6 +2,7 @@
 #include "app/CommandLine.h"
 
 #include "app/Backend.h"
+#include "app/EngineChoice.h"
 #include "app/OperatorCommands.h"
 #include "app/Settings.h"
 #include "support/Log.h"
@@ -24,7 +25,7 @@ struct Command {
 
 void serve(const Settings &settings, const QStringList &)
 {
-    Backend backend(settings);
+    Backend backend(settings, makeEngine(settings));
     std::cout << "quillo-backend listening on " << backend.url() << std::endl;
     backend.run();
 }

@@ -34,6 +34,7 @@ bool feed(RequestParser &parser, std::string_view bytes)
 
 } // namespace
 
+// NOLINTNEXTLINE(readability-identifier-naming): the library calls it by this name
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const std::string_view input(reinterpret_cast<const char *>(data), size);

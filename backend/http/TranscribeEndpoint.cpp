@@ -70,7 +70,10 @@ net::awaitable<Reply> TranscribeEndpoint::transcribe(const Request &request)
         if (failure) {
             std::rethrow_exception(failure);
         }
-        if (!words.isEmpty() && request.connected()) {
+        if (!request.connected()) {
+            throw Refusal(400, "client_closed", "The connection was closed early.");
+        }
+        if (!words.isEmpty()) {
             throw Refusal::insufficientTokens(); // the hold lapsed, and the tokens went elsewhere
         }
         const auto left = co_await m_store.run([&](Store &store) { return store.ledger.balance(device.id); });

@@ -87,6 +87,7 @@ Database::~Database()
 void Database::open()
 {
     m_prepared.clear();
+    m_volatile = false;
     if (!m_connection.open()) {
         fail("the database can't be opened", m_connection.lastError());
     }
@@ -94,6 +95,7 @@ void Database::open()
         command(u"SET client_min_messages = warning"_s);
     } else {
         command(u"PRAGMA journal_mode = WAL"_s);
+        command(u"PRAGMA synchronous = FULL"_s);
         command(u"PRAGMA foreign_keys = ON"_s);
     }
 }
@@ -201,12 +203,20 @@ qint64 Database::change(const QString &sql, const Row &values)
     return rows;
 }
 
-Transaction::Transaction(Database &database) : m_database(database)
+Transaction::Transaction(Database &database, Kind kind) : m_database(database)
 {
+    const auto isVolatile = kind == Kind::Volatile;
     // What will write takes SQLite's write lock at its beginning: later, it could find that another process was faster.
     database.reconnect();
+    if (isVolatile != database.m_volatile && !database.m_postgreSql) {
+        database.command(isVolatile ? u"PRAGMA synchronous = NORMAL"_s : u"PRAGMA synchronous = FULL"_s);
+        database.m_volatile = isVolatile;
+    }
     database.command(database.m_postgreSql ? u"BEGIN ISOLATION LEVEL READ COMMITTED"_s : u"BEGIN IMMEDIATE"_s);
     database.m_inTransaction = true;
+    if (isVolatile && database.m_postgreSql) {
+        database.command(u"SET LOCAL synchronous_commit = off"_s);
+    }
 }
 
 Transaction::~Transaction()

@@ -56,12 +56,17 @@ private:
     QSqlDatabase m_connection;
     std::unordered_map<QString, QSqlQuery> m_prepared;
     bool m_inTransaction = false;
+    bool m_volatile = false; ///< SQLite does not wait for the disk
 };
 
 /// Everything executed during its life happens on commit(), or not at all.
 class Transaction {
 public:
-    explicit Transaction(Database &database);
+    /// What commit() waits for. After a crash of this process, both kinds are there; after one of the machine, the last
+    /// volatile ones may be missing, unless a durable one came after them.
+    enum class Kind { Durable, Volatile };
+
+    explicit Transaction(Database &database, Kind kind = Kind::Durable);
     ~Transaction();
     Transaction(const Transaction &) = delete;
     Transaction &operator=(const Transaction &) = delete;

@@ -23,7 +23,7 @@ qint64 Ledger::balance(const QString &deviceId)
 
 std::optional<Ledger::Hold> Ledger::hold(const QString &deviceId, qint64 tokens)
 {
-    Transaction transaction(m_database);
+    Transaction transaction(m_database, Transaction::Kind::Volatile);
     lapse(deviceId);
     Hold hold{{}, deviceId, tokens};
     // The condition and the addition are one statement, so simultaneous holds can't both pass it.
@@ -46,8 +46,11 @@ std::optional<Ledger::Hold> Ledger::hold(const QString &deviceId, qint64 tokens)
 std::optional<qint64> Ledger::deliver(Hold &hold)
 {
     const auto mark = [&] {
-        return m_database.change(u"UPDATE holds SET delivering = 1, expires_at = ? WHERE id = ?"_s,
-                                 {m_clock() + holdLifetime, hold.id}) == 1;
+        Transaction transaction(m_database, Transaction::Kind::Volatile);
+        const auto found = m_database.change(u"UPDATE holds SET delivering = 1, expires_at = ? WHERE id = ?"_s,
+                                             {m_clock() + holdLifetime, hold.id}) == 1;
+        transaction.commit();
+        return found;
     };
     if (!hold.id.isEmpty() && !mark()) {
         auto another = this->hold(hold.deviceId, hold.amount);
@@ -80,7 +83,7 @@ void Ledger::release(const Hold &hold)
     if (hold.id.isEmpty()) {
         return;
     }
-    Transaction transaction(m_database);
+    Transaction transaction(m_database, Transaction::Kind::Volatile);
     if (m_database.change(u"DELETE FROM holds WHERE id = ?"_s, {hold.id}) == 1) {
         m_database.change(u"UPDATE devices SET held = held - ? WHERE id = ?"_s, {hold.amount, hold.deviceId});
     }

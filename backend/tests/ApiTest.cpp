@@ -197,6 +197,17 @@ TEST_P(ApiTest, TakesNothingFromAClientThatWentAway)
     EXPECT_EQ(left.held, 0);
 }
 
+TEST_P(ApiTest, GivesNoTranscriptToAClientThatHasClosedItsHalf)
+{
+    start({.freeTokens = 10});
+    const auto device = registered();
+    auto client = connect();
+    client.write(upload(device, tone()));
+    client.closeHalf();
+    EXPECT_EQ(client.receive().error(), "client_closed");
+    EXPECT_EQ(balance(device), 10);
+}
+
 TEST_P(ApiTest, AnswersThatItIsBusyWhenTheEngineHasEnough)
 {
     start({.freeTokens = 100, .places = 1});
@@ -281,7 +292,7 @@ TEST_P(ApiTest, KeepsAConnectionUntilARequestIsMalformed)
 
 TEST_P(ApiTest, ClosesConnectionsThatAreIdleOrTooSlow)
 {
-    start({.server = {.idle = 20ms, .header = 20ms, .stall = 20ms}});
+    start({.server = {.idle = 20ms, .header = 20ms, .stall = 1h, .body = 20ms}});
     for (const auto *const beginning : {"", "GET /v1/bal", "POST /v1/devices HTTP/1.1\r\nContent-Length: 9\r\n\r\n{"}) {
         auto client = connect();
         client.write(beginning);

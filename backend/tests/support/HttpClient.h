@@ -68,6 +68,9 @@ public:
 
     void close() { m_socket.close(); }
 
+    /// Sends nothing more, and can still receive.
+    void closeHalf() { m_socket.shutdown(boost::asio::ip::tcp::socket::shutdown_send); }
+
     /// Breaks the connection off instead of closing it.
     void reset()
     {
