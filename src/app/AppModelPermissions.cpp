@@ -65,7 +65,10 @@ void AppModel::fixAccessibility()
 void AppModel::openPrivacySettings(Workspace::PrivacyPane pane)
 {
     if (!m_platform.workspace.openPrivacySettings(pane)) {
-        m_hud.show(HUDPhase::Message{u"No settings page here: run “quillo doctor”"_s, true});
+        const QString advice = pane == Workspace::PrivacyPane::Microphone
+                                   ? u"Allow an input device in the sound settings"_s
+                                   : u"Run “quillo doctor” to see what is missing"_s;
+        m_hud.show(HUDPhase::Message{advice, true});
     }
 }
 

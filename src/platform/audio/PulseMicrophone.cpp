@@ -18,7 +18,12 @@ PulseMicrophone::~PulseMicrophone() = default;
 
 Microphone::Authorization PulseMicrophone::authorizationStatus() const
 {
-    return m_context->isDenied() ? Authorization::Denied : Authorization::Authorized;
+    if (m_context->isDenied()) {
+        return Authorization::Denied;
+    }
+    const bool hasNoSource =
+        m_context->connection() == PulseContext::Connection::Ready && m_context->source() == PulseContext::Source::None;
+    return hasNoSource ? Authorization::Restricted : Authorization::Authorized;
 }
 
 QCoro::Task<bool> PulseMicrophone::requestAccess()

@@ -17,7 +17,8 @@ public:
     explicit PulseMicrophone(Clock &clock, const QString &server = {});
     ~PulseMicrophone() override;
 
-    /// Denied when the server refuses this user, Authorized otherwise, also without a server.
+    /// Denied when the server refuses this user, as it does to a program whose sandbox or whose user said no;
+    /// Restricted when it has nothing to record from; Authorized otherwise, also without a server, which may come.
     Authorization authorizationStatus() const override;
 
     /// The desktop has no question to ask: answers with the status as it is.

@@ -147,6 +147,7 @@ TEST_P(WithoutMicrophoneTest, EndsAnEarlyRecordingEmptyAndRefusesTheNext)
     EXPECT_EQ(QFileInfo(early->path()).size(), 0);
 
     EXPECT_TRUE(isRefused(microphone));
+    EXPECT_EQ(microphone.authorizationStatus(), Microphone::Authorization::Restricted);
     EXPECT_FALSE(hasStreams(server));
 }
 
