@@ -28,7 +28,8 @@ public:
 
     /// What a click on the button does: starts listening, or stops without a change.
     Q_INVOKABLE void toggle();
-    void stop();
+    /// Ends listening without a change.
+    Q_INVOKABLE void stop();
 
 Q_SIGNALS:
     void changed();

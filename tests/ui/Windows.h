@@ -15,7 +15,10 @@
 
 /// The real windows on a desktop of fakes, with the controller's values as a plain map.
 struct Windows {
-    Windows()
+    /// A real pasteboard and real key monitors can stand in for the fakes.
+    explicit Windows(Pasteboard *realPasteboard = nullptr, KeyMonitors *realKeyMonitors = nullptr)
+        : pasteboard(realPasteboard != nullptr ? *realPasteboard : fake.pasteboard),
+          keyMonitors(realKeyMonitors != nullptr ? *realKeyMonitors : fake.keyMonitors)
     {
         const auto text = [](const char *utf8) { return QString::fromUtf8(utf8); };
         for (const auto &[name, value] : std::initializer_list<std::pair<const char *, QVariant>>{
@@ -55,19 +58,20 @@ struct Windows {
         QQmlEngine::setObjectOwnership(&calls, QQmlEngine::CppOwnership);
         history = std::make_unique<HistoryWindow>(
             fake.application, fake.preferences, fake.screens, [this](HistoryWindow &window) {
-                auto made = makeHistoryWindow(engine, model, store, groups, window, fake.pasteboard, fake.clock);
+                auto made = makeHistoryWindow(engine, model, store, groups, window, pasteboard, fake.clock);
                 historyView = qobject_cast<QQuickView *>(made.get());
                 return made;
             });
         settings = std::make_unique<SettingsWindow>(fake.application, fake.screens, [this] {
-            auto made =
-                makeSettingsWindow(engine, model, store, groups, fake.packagedInfo, fake.keyMonitors, shortcuts);
+            auto made = makeSettingsWindow(engine, model, store, groups, fake.packagedInfo, keyMonitors, shortcuts);
             settingsView = qobject_cast<QQuickView *>(made.get());
             return made;
         });
     }
 
     FakePlatform fake;
+    Pasteboard &pasteboard;
+    KeyMonitors &keyMonitors;
     TranscriptionStore store{fake.files, fake.clock};
     GroupStore groups{fake.files, fake.preferences};
     QQmlEngine engine;

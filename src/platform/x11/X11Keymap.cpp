@@ -40,6 +40,31 @@ xkb_keysym_t symbolAt(xkb_keymap *keymap, xkb_keycode_t code, xkb_layout_index_t
     return count == 1 ? symbols[0] : XKB_KEY_NoSymbol;
 }
 
+/// The character for a symbol; for a dead key the one of its accent standing alone. 0 when there is none.
+uint32_t characterOf(xkb_keysym_t symbol)
+{
+    static constexpr std::array<std::pair<xkb_keysym_t, uint32_t>, 16> accents{{
+        {XKB_KEY_dead_grave, u'`'},
+        {XKB_KEY_dead_acute, u'´'},
+        {XKB_KEY_dead_circumflex, u'^'},
+        {XKB_KEY_dead_tilde, u'~'},
+        {XKB_KEY_dead_macron, u'¯'},
+        {XKB_KEY_dead_breve, u'˘'},
+        {XKB_KEY_dead_abovedot, u'˙'},
+        {XKB_KEY_dead_diaeresis, u'¨'},
+        {XKB_KEY_dead_abovering, u'˚'},
+        {XKB_KEY_dead_doubleacute, u'˝'},
+        {XKB_KEY_dead_caron, u'ˇ'},
+        {XKB_KEY_dead_cedilla, u'¸'},
+        {XKB_KEY_dead_ogonek, u'˛'},
+        {XKB_KEY_dead_iota, u'ͺ'},
+        {XKB_KEY_dead_stroke, u'/'},
+        {XKB_KEY_dead_currency, u'¤'},
+    }};
+    const auto *const accent = std::ranges::find(accents, symbol, &std::pair<xkb_keysym_t, uint32_t>::first);
+    return accent == accents.end() ? xkb_keysym_to_utf32(symbol) : accent->second;
+}
+
 bool isLock(xkb_keymap *keymap, xkb_keycode_t code)
 {
     const auto symbol = symbolAt(keymap, code, 0);
@@ -129,7 +154,7 @@ xkb_keymap *X11Keymap::keymap()
 QString X11Keymap::text(uint8_t code)
 {
     auto *const map = keymap();
-    const uint32_t character = map == nullptr ? 0 : xkb_keysym_to_utf32(symbolAt(map, code, m_group));
+    const uint32_t character = map == nullptr ? 0 : characterOf(symbolAt(map, code, m_group));
     return character == 0 ? QString() : QString::fromUcs4(reinterpret_cast<const char32_t *>(&character), 1);
 }
 

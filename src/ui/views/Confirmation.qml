@@ -11,6 +11,8 @@ T.Popup {
     property string message: ""
     property string action: ""
 
+    property Item focusBefore: null
+
     signal confirmed
 
     parent: T.Overlay.overlay
@@ -20,7 +22,9 @@ T.Popup {
     modal: true
     focus: true
     closePolicy: T.Popup.CloseOnEscape
+    onAboutToShow: focusBefore = parent.Window.activeFocusItem
     onOpened: cancel.forceActiveFocus()
+    onClosed: focusBefore?.forceActiveFocus(Qt.PopupFocusReason)
 
     T.Overlay.modal: Rectangle { color: Qt.rgba(0, 0, 0, 0.35) }
 

@@ -41,6 +41,7 @@ Item {
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
         keyNavigationEnabled: true
+        activeFocusOnTab: true
         Accessible.role: Accessible.List
         Accessible.name: "Entries"
 

@@ -7,9 +7,11 @@ TextEdit {
     id: piece
 
     property alias content: filler.text
-
     // The last line has nothing below it to keep away from.
-    height: contentHeight - filler.lineSpacing
+    readonly property real textHeight: contentHeight - filler.lineSpacing
+
+    signal pressed
+
     readOnly: true
     selectByMouse: true
     persistentSelection: true
@@ -22,6 +24,13 @@ TextEdit {
     selectedTextColor: Paper.background
     Accessible.ignored: true
 
+    PointHandler {
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onActiveChanged: {
+            if (active)
+                piece.pressed();
+        }
+    }
     EntryText {
         id: filler
 

@@ -23,7 +23,6 @@ FocusScope {
     signal pressed
 
     height: content.y + content.height + 10 + pill.height + 18
-    activeFocusOnTab: isCurrent
 
     Accessible.role: Accessible.ListItem
     Accessible.name: text + ", " + meta
@@ -52,19 +51,23 @@ FocusScope {
         x: 24 + 44 + 16
         y: 18
         width: row.width - x - 24
-        height: Math.max(item !== null ? item.height : 0, 56 + 3 - 10 - pill.height)
+        height: Math.max(item !== null ? item.textHeight : 0, 56 + 3 - 10 - pill.height)
         sourceComponent: row.isLong ? longText : shortText
     }
     Component {
         id: shortText
 
-        EntryPiece { content: row.text }
+        EntryPiece {
+            content: row.text
+            onPressed: row.pressed()
+        }
     }
     Component {
         id: longText
 
         LongEntryText {
             pieces: pieceMaker.pieces(row.text)
+            onPressed: row.pressed()
             visibleTop: row.list.contentY - row.y - content.y
             visibleBottom: visibleTop + row.list.height
         }

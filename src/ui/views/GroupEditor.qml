@@ -9,6 +9,7 @@ T.Popup {
 
     required property GroupEditorModel groups
     required property var historyWindow
+    property Item focusBefore: null
 
     parent: T.Overlay.overlay
     anchors.centerIn: parent
@@ -19,8 +20,14 @@ T.Popup {
     focus: true
     closePolicy: T.Popup.CloseOnEscape
 
-    onAboutToShow: groups.newName = ""
-    onClosed: historyWindow.isEditingGroups = false
+    onAboutToShow: {
+        groups.newName = "";
+        focusBefore = parent.Window.activeFocusItem;
+    }
+    onClosed: {
+        historyWindow.isEditingGroups = false;
+        focusBefore?.forceActiveFocus(Qt.PopupFocusReason);
+    }
     Component.onCompleted: follow()
 
     function follow() {

@@ -20,6 +20,12 @@ Rectangle {
     color: index % 2 === 1 ? Qt.alpha(Paper.secondary, 0.08) : "transparent"
     opacity: drag.active ? 0.5 : 1
 
+    // What is typed is the name already; writing it back would move the cursor.
+    onNameChanged: {
+        if (field.text !== name)
+            field.text = name;
+    }
+
     function takeFocus() {
         field.forceActiveFocus();
     }
@@ -57,19 +63,13 @@ Rectangle {
 
         anchors { left: grip.right; leftMargin: 2; right: trash.left; verticalCenter: parent.verticalCenter }
         placeholderText: "Name"
+        Component.onCompleted: text = row.name
         onTextEdited: row.rename(text)
         Accessible.name: "Name of the group"
         Keys.onPressed: event => {
             event.accepted = event.modifiers & Qt.AltModifier && (event.key === Qt.Key_Up || event.key === Qt.Key_Down);
             if (event.accepted)
                 row.moveBy(event.key === Qt.Key_Up ? -1 : 1);
-        }
-
-        // What is typed is the name already; writing it back would move the cursor.
-        Binding {
-            when: field.text !== row.name
-            field.text: row.name
-            restoreMode: Binding.RestoreNone
         }
     }
     T.Button {

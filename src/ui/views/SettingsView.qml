@@ -63,15 +63,15 @@ Rectangle {
     }
 
     // What has the focus stays in sight on a low screen.
-    Connections {
-        target: view.Window.window
-        function onActiveFocusItemChanged() {
-            const item = view.Window.activeFocusItem;
-            if (item === null || !scroller.interactive)
-                return;
-            const y = item.mapToItem(form, 0, 0).y + form.y;
-            if (y < scroller.contentY + 30 || y + item.height > scroller.contentY + scroller.height - 30)
-                scroller.contentY = Math.max(0, Math.min(scroller.contentHeight - scroller.height, y - scroller.height / 2));
-        }
+    Window.onActiveFocusItemChanged: {
+        const item = Window.activeFocusItem;
+        let ancestor = item;
+        while (ancestor !== null && ancestor !== form)
+            ancestor = ancestor.parent;
+        if (ancestor === null || !scroller.interactive)
+            return;
+        const y = item.mapToItem(scroller.contentItem, 0, 0).y;
+        if (y < scroller.contentY + 30 || y + item.height > scroller.contentY + scroller.height - 30)
+            scroller.contentY = Math.max(0, Math.min(scroller.contentHeight - scroller.height, y - scroller.height / 2));
     }
 }

@@ -10,6 +10,12 @@ Column {
     property string shortcut: ""
     // What the shortcut is for.
     property string title: ""
+    readonly property bool isShown: Window.window !== null && Window.window.visible
+
+    onIsShownChanged: {
+        if (!isShown)
+            recorder.stop();
+    }
 
     spacing: 4
 

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "support/Await.h"
+
+#include <QAccessible>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QTest>
+
+#include <stdexcept>
+
+/// Finds what stands in a window and acts on it as a user does.
+class ViewDriver {
+public:
+    explicit ViewDriver(QQuickView &view) : m_view(view)
+    {
+        if (!await([&] { return view.isActive(); })) {
+            throw std::runtime_error("the window does not get the keyboard focus");
+        }
+    }
+
+    /// The first visible item of a QML type that has the value under the property; null when there is none.
+    QQuickItem *find(const char *type, const char *property = nullptr, const QVariant &value = {}) const
+    {
+        return find(m_view.contentItem(), [&](const QQuickItem &item) {
+            const bool isOfType = QByteArray(item.metaObject()->className()).startsWith(QByteArray(type) + '_');
+            return isOfType && (property == nullptr || item.property(property) == value);
+        });
+    }
+
+    /// The visible texts, in the order of the items.
+    QStringList texts() const
+    {
+        QStringList found;
+        find(m_view.contentItem(), [&](const QQuickItem &item) {
+            if (item.inherits("QQuickText") && !item.property("text").toString().isEmpty()) {
+                found.append(item.property("text").toString());
+            }
+            return false;
+        });
+        return found;
+    }
+
+    QPoint centre(const QQuickItem *item) const
+    {
+        if (item == nullptr) {
+            throw std::runtime_error("there is no such item");
+        }
+        return item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
+    }
+
+    void click(const QQuickItem *item) { QTest::mouseClick(&m_view, Qt::LeftButton, {}, centre(item)); }
+
+    void press(int key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&m_view, Qt::Key(key), modifiers); }
+    void type(const QString &text)
+    {
+        for (const QChar c : text) {
+            QTest::sendKeyEvent(QTest::Click, &m_view, Qt::Key_unknown, QString(c), {});
+        }
+    }
+
+    QQuickView &view() { return m_view; }
+
+private:
+    template <typename Condition> static QQuickItem *find(QQuickItem *item, const Condition &condition)
+    {
+        if (!item->isVisible() || item->opacity() == 0) {
+            return nullptr;
+        }
+        if (condition(*item)) {
+            return item;
+        }
+        for (QQuickItem *child : item->childItems()) {
+            if (QQuickItem *found = find(child, condition)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+
+    QQuickView &m_view;
+};
