@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/ServerProgram.h"
 
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <boost/asio/local/datagram_protocol.hpp>
 #include <gmock/gmock.h>
@@ -85,6 +86,25 @@ TEST_F(ProgramTest, NamesTheLineAndTheKeyOfABadValue)
         EXPECT_EQ(std::ranges::count(errors, '\n'), 1) << errors;
         EXPECT_EQ(output, "");
     }
+}
+
+TEST_F(ProgramTest, HasItsOptionsAndCommandsInTheManualPage)
+{
+    QFile manual(QStringLiteral(QUILLO_BACKEND_MANUAL));
+    ASSERT_TRUE(manual.open(QIODevice::ReadOnly));
+    const auto page = manual.readAll();
+    const auto help = QString::fromStdString(run({u"--help"_s}).output);
+    int found = 0;
+    for (const auto &line : help.split(u'\n')) {
+        static const QRegularExpression named(u"^  (--[a-z-]+) <|^  ([a-z]+( [A-Za-z]+)*)  "_s);
+        const auto match = named.match(line);
+        const auto name = match.captured(match.lastCapturedIndex() == 1 ? 1 : 2);
+        if (match.hasMatch() && name != u"command"_s) {
+            ++found;
+            EXPECT_TRUE(page.contains(QString(name).replace(u'-', u"\\-"_s).toUtf8())) << name.toStdString();
+        }
+    }
+    EXPECT_GT(found, 30);
 }
 
 TEST_F(ProgramTest, PrefersTheCommandLineToTheEnvironmentToTheFile)

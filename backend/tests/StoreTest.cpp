@@ -180,6 +180,20 @@ TEST_P(StoreTest, ServesOneDeviceAndOnePoolThroughManyConnectionsAtOnce)
     EXPECT_THAT(store->ledger.unexplained(), testing::IsEmpty());
 }
 
+TEST_P(StoreTest, ConnectsAnewAfterTheConnectionWasLost)
+{
+    if (GetParam() == DatabaseKind::Sqlite) {
+        GTEST_SKIP() << "a file has no connection to lose";
+    }
+    const auto store = open();
+    const auto device = store->devices.add(u"linux"_s);
+    open()->database.select(u"SELECT pg_terminate_backend(pid) FROM pg_stat_activity"
+                            " WHERE datname = current_database() AND pid <> pg_backend_pid()"_s);
+    EXPECT_THROW(store->ledger.hold(device.deviceId, 1), StoreError);
+    EXPECT_TRUE(store->ledger.hold(device.deviceId, 1));
+    EXPECT_TRUE(store->devices.authenticate(credential(device)));
+}
+
 TEST_P(StoreTest, GrantsFreeTokensUntilTheDaysPoolIsEmpty)
 {
     const auto store = open({.freeTokens = 10, .dailyPool = 25});
