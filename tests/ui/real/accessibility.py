@@ -1,0 +1,65 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""Looks at the running program as a screen reader does, through the accessibility bus, and acts on it.
+
+usage: accessibility.py find ROLE NAME          waits for it and prints its role, name and states
+       accessibility.py press ROLE NAME         does its first action
+       accessibility.py write ROLE NAME TEXT    puts text into it
+A NAME that ends in "*" is the beginning of a name. Exit status 1: not there within ten seconds."""
+
+import sys
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+STATES = [Atspi.StateType.FOCUSABLE, Atspi.StateType.SELECTED, Atspi.StateType.CHECKED, Atspi.StateType.ENABLED]
+
+
+def descendants(node):
+    for i in range(node.get_child_count()):
+        child = node.get_child_at_index(i)
+        if child is not None:
+            yield child
+            yield from descendants(child)
+
+
+def matches(node, role, name):
+    own = node.get_name() or ""
+    fits = own.startswith(name[:-1]) if name.endswith("*") else own == name
+    return fits and node.get_role_name() == role and node.get_state_set().contains(Atspi.StateType.SHOWING)
+
+
+def find(role, name):
+    deadline = time.monotonic() + 10
+    while time.monotonic() < deadline:
+        try:
+            desktop = Atspi.get_desktop(0)
+            for i in range(desktop.get_child_count()):
+                program = desktop.get_child_at_index(i)
+                if program is not None and program.get_name() == "quillo":
+                    for node in descendants(program):
+                        if matches(node, role, name):
+                            return node
+        except GLib.Error:
+            pass  # a node went away while it was looked at
+        time.sleep(0.05)
+    seen = [f"{node.get_role_name()}: {node.get_name()}" for node in descendants(Atspi.get_desktop(0))]
+    sys.exit(f"there is no {role} {name!r} among:\n" + "\n".join(seen))
+
+
+def main():
+    Atspi.init()
+    command, role, name = sys.argv[1:4]
+    node = find(role, name)
+    if command == "press":
+        node.get_action_iface().do_action(0)
+    elif command == "write":
+        node.get_editable_text_iface().set_text_contents(sys.argv[4])
+    states = [state.value_nick for state in STATES if node.get_state_set().contains(state)]
+    print(f"{node.get_role_name()}: {node.get_name()} [{' '.join(states)}]")
+
+
+main()
