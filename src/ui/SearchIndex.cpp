@@ -9,7 +9,7 @@ namespace {
 
 constexpr char end = '\xff';
 /// Bytes after which a new block begins: some tens of microseconds of searching.
-constexpr size_t blockSize = 64 * 1024;
+constexpr size_t blockSize = 65536;
 
 QByteArray folded(const QString &text)
 {

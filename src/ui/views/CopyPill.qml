@@ -21,8 +21,12 @@ T.Button {
     opacity: down ? 0.7 : 1
     Accessible.name: isCopied ? "Copied" : "Copy"
 
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Accessible.onPressAction: {
+        if (enabled)
+            clicked();
+    }
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     Behavior on ink { ColorAnimation { duration: 300; easing.type: Easing.InOutQuad } }
 

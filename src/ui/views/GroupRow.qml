@@ -23,9 +23,13 @@ Rectangle {
     // What is typed is the name already; writing it back would move the cursor.
     onNameChanged: {
         if (field.text !== name)
-            field.text = name;
+            show();
     }
 
+    function show() {
+        field.text = name;
+        field.cursorPosition = 0; // the beginning of a long name tells more than its end
+    }
     function takeFocus() {
         field.forceActiveFocus();
     }
@@ -63,7 +67,7 @@ Rectangle {
 
         anchors { left: grip.right; leftMargin: 2; right: trash.left; verticalCenter: parent.verticalCenter }
         placeholderText: "Name"
-        Component.onCompleted: text = row.name
+        Component.onCompleted: row.show()
         onTextEdited: row.rename(text)
         Accessible.name: "Name of the group"
         Keys.onPressed: event => {
@@ -81,8 +85,12 @@ Rectangle {
         focusPolicy: Qt.StrongFocus
         opacity: down ? 0.5 : 1
         onClicked: row.remove()
-        Keys.onReturnPressed: click()
+        Keys.onReturnPressed: clicked()
         Accessible.name: "Delete group"
+        Accessible.onPressAction: {
+        if (enabled)
+            clicked();
+    }
         Accessible.description: row.name
 
         contentItem: Image {

@@ -15,6 +15,7 @@ T.MenuItem {
     rightPadding: 10
     opacity: enabled ? 1 : 0.4
     font: Paper.sans(13)
+    Accessible.onPressAction: triggered()
 
     contentItem: Text {
         id: label

@@ -27,6 +27,7 @@ T.ComboBox {
         font: picker.font
     }
 
+    Accessible.onPressAction: popup.open()
     Keys.onReturnPressed: popup.open()
     Keys.onEnterPressed: popup.open()
 

@@ -17,8 +17,12 @@ T.Button {
     opacity: down ? 0.7 : 1
     font: Paper.sansMedium(11)
 
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Accessible.onPressAction: {
+        if (enabled)
+            clicked();
+    }
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     contentItem: Text {
         text: button.text

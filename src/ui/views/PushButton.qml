@@ -26,8 +26,12 @@ T.Button {
     opacity: enabled ? 1 : 0.45
     font.pixelSize: 13
 
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Accessible.onPressAction: {
+        if (enabled)
+            clicked();
+    }
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     contentItem: Text {
         text: button.text

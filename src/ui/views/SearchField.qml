@@ -57,6 +57,10 @@ Item {
             visible: opacity > 0
             focusPolicy: Qt.TabFocus
             Accessible.name: "Clear search"
+            Accessible.onPressAction: {
+        if (enabled)
+            clicked();
+    }
             onClicked: {
                 field.clear();
                 field.forceActiveFocus();

@@ -41,6 +41,8 @@ Rectangle {
                 autoExclusive: false
                 font { pixelSize: 12; weight: checked ? Font.Medium : Font.Normal }
                 onClicked: choose(index)
+                Accessible.onPressAction: choose(index)
+                Accessible.onToggleAction: choose(index)
                 Keys.onLeftPressed: choose(index - 1)
                 Keys.onRightPressed: choose(index + 1)
 

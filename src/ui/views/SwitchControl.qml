@@ -10,7 +10,14 @@ T.Switch {
     implicitWidth: 38
     implicitHeight: 22
     focusPolicy: Qt.StrongFocus
-    Keys.onReturnPressed: click()
+    Keys.onReturnPressed: flip()
+    Accessible.onPressAction: flip()
+    Accessible.onToggleAction: flip()
+
+    function flip() {
+        toggle();
+        toggled();
+    }
 
     indicator: Rectangle {
         width: control.width

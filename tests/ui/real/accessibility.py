@@ -1,9 +1,9 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Looks at the running program as a screen reader does, through the accessibility bus, and acts on it.
+"""Looks at the programs on the accessibility bus as a screen reader does, and acts on them.
 
 usage: accessibility.py find ROLE NAME          waits for it and prints its role, name and states
-       accessibility.py press ROLE NAME         does its first action
+       accessibility.py press ROLE NAME         presses it
        accessibility.py write ROLE NAME TEXT    puts text into it
 A NAME that ends in "*" is the beginning of a name. Exit status 1: not there within ten seconds."""
 
@@ -36,13 +36,9 @@ def find(role, name):
     deadline = time.monotonic() + 10
     while time.monotonic() < deadline:
         try:
-            desktop = Atspi.get_desktop(0)
-            for i in range(desktop.get_child_count()):
-                program = desktop.get_child_at_index(i)
-                if program is not None and program.get_name() == "quillo":
-                    for node in descendants(program):
-                        if matches(node, role, name):
-                            return node
+            for node in descendants(Atspi.get_desktop(0)):
+                if matches(node, role, name):
+                    return node
         except GLib.Error:
             pass  # a node went away while it was looked at
         time.sleep(0.05)
@@ -55,7 +51,9 @@ def main():
     command, role, name = sys.argv[1:4]
     node = find(role, name)
     if command == "press":
-        node.get_action_iface().do_action(0)
+        action = node.get_action_iface()
+        names = [Atspi.Action.get_name(action, i) for i in range(action.get_n_actions())]
+        action.do_action(names.index("Press"))
     elif command == "write":
         node.get_editable_text_iface().set_text_contents(sys.argv[4])
     states = [state.value_nick for state in STATES if node.get_state_set().contains(state)]
