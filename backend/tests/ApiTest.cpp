@@ -202,8 +202,12 @@ TEST_P(ApiTest, GivesNoTranscriptToAClientThatHasClosedItsHalf)
     start({.freeTokens = 10});
     const auto device = registered();
     auto client = connect();
+    std::latch entered(2);
+    engine->together = &entered;
     client.write(upload(device, tone()));
+    awaitEngine();
     client.closeHalf();
+    entered.arrive_and_wait();
     EXPECT_EQ(client.receive().error(), "client_closed");
     EXPECT_EQ(balance(device), 10);
 }
@@ -312,7 +316,7 @@ TEST_P(ApiTest, LimitsTheRegistrationsOfAnAddressBehindATrustedProxyToo)
     const auto refused = attempt("192.0.2.8, 192.0.2.1"); // what the client claims does not count
     EXPECT_EQ(refused.status, 429);
     EXPECT_EQ(refused.error(), "too_many_registrations");
-    EXPECT_EQ(refused.retryAfter, "1800");
+    EXPECT_THAT(std::stoi(refused.retryAfter), testing::AllOf(testing::Le(1800), testing::Gt(1700)));
     EXPECT_EQ(attempt("192.0.2.2").status, 200);
     EXPECT_EQ(attempt("2001:db8::1").status, 200);
     EXPECT_EQ(attempt("2001:db8::2").status, 200);
@@ -324,12 +328,14 @@ TEST_P(ApiTest, TellsTheOperatorEnoughAndNoSecret)
 {
     start();
     const auto device = registered();
-    transcribe(device, tone());
+    auto client = connect(); // whose next request is read when all of this one has been dealt with
+    client.sendRaw(upload(device, tone()));
     const auto url = connect().send("POST", "/v1/checkout/link", device).json()[u"url"_s].toString().toStdString();
     const auto link = url.substr(server->url().size());
     connect().send("GET", link);
     EXPECT_EQ(connect().send("GET", "/healthz").body, R"({"database":"ok","engine":"ok","status":"ok"})");
-    const auto metrics = connect().send("GET", "/metrics").body;
+    const auto metrics = client.send("GET", "/metrics").body;
+    client.close();
     server->stop(); // so that the log is complete
     EXPECT_THAT(metrics, testing::HasSubstr(R"(route="/v1/transcribe",status="200"} 1)"));
     EXPECT_THAT(metrics, testing::HasSubstr("quillo_tokens_charged_total 2"));
@@ -356,6 +362,7 @@ TEST_P(ApiTest, FinishesTheRunningRequestsWhenItStops)
     auto stopped = std::async(std::launch::async, [&] { server->stop(); });
     EXPECT_TRUE(idle.isClosedByServer());
     EXPECT_EQ(beginning.sendRaw("alance HTTP/1.1\r\nHost: test\r\n" + device + "\r\n").balance(), 10);
+    beginning.close();
     entered.arrive_and_wait();
     EXPECT_EQ(running.get(), 8);
     stopped.get();

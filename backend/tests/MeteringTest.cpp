@@ -48,6 +48,7 @@ protected:
     std::unique_ptr<ServerProgram> start() const
     {
         return std::make_unique<ServerProgram>(
+            QStringLiteral(QUILLO_BACKEND_PROGRAM),
             QStringList{u"--database"_s, database.location(), u"--engine=openai"_s, u"--registrations-per-hour=0"_s,
                         u"--free-tokens=100"_s, u"--openai-base-url"_s, QString::fromStdString(upstreamServer.url())});
     }

@@ -124,7 +124,7 @@ TEST_F(ProgramTest, PrefersTheCommandLineToTheEnvironmentToTheFile)
 
 TEST_F(ProgramTest, ServesWhileItsOperatorLooksAfterTheDevices)
 {
-    ServerProgram server({u"--database"_s, database, u"--free-tokens=5"_s});
+    ServerProgram server(QStringLiteral(QUILLO_BACKEND_PROGRAM), {u"--database"_s, database, u"--free-tokens=5"_s});
     EXPECT_EQ(QFile::permissions(QFileInfo(database).path()) & (QFile::ExeGroup | QFile::ExeOther), 0);
     const auto device = registeredAt(server.port());
     const auto id = QString::fromStdString(device).section(u' ', 2).section(u'.', 0, 0);

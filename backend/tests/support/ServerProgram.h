@@ -12,11 +12,10 @@
 class ServerProgram {
 public:
     /// Returns when it listens. `options` besides --port.
-    explicit ServerProgram(const QStringList &options)
+    ServerProgram(const QString &program, const QStringList &options)
     {
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(QStringLiteral(QUILLO_BACKEND_PROGRAM),
-                        QStringList{QStringLiteral("serve"), QStringLiteral("--port=0")} + options);
+        m_process.start(program, QStringList{QStringLiteral("serve"), QStringLiteral("--port=0")} + options);
         m_process.waitForReadyRead();
         const auto line = QString::fromUtf8(m_process.readAllStandardOutput()).trimmed();
         m_port = static_cast<uint16_t>(QUrl(line.section(QLatin1Char(' '), -1)).port(0));

@@ -32,8 +32,9 @@ public:
             throw std::runtime_error("initdb: " + initdb.readAllStandardError().toStdString());
         }
         restrict(m_server);
-        m_server.start(program(u"postgres"_s), {u"-D"_s, data, u"-k"_s, m_folder.path(), u"-c"_s,
-                                                u"listen_addresses="_s, u"-c"_s, u"max_connections=200"_s});
+        m_server.start(program(u"postgres"_s),
+                       {u"-D"_s, data, u"-k"_s, m_folder.path(), u"-c"_s, u"listen_addresses="_s, u"-c"_s,
+                        u"fsync=off"_s, u"-c"_s, u"max_connections=200"_s});
         m_server.setReadChannel(QProcess::StandardError);
         QByteArray log;
         while (!log.contains("ready to accept connections")) {
@@ -47,7 +48,7 @@ public:
 
     ~PostgreSqlServer()
     {
-        ::kill(static_cast<pid_t>(m_server.processId()), SIGINT); // ends it without waiting for its clients
+        ::kill(static_cast<pid_t>(m_server.processId()), SIGQUIT); // at once: nothing of it is kept
         m_server.waitForFinished();
     }
     PostgreSqlServer(const PostgreSqlServer &) = delete;
@@ -94,7 +95,7 @@ private:
                 (::setgroups(0, nullptr) != 0 || ::setgid(user.pw_gid) != 0 || ::setuid(user.pw_uid) != 0)) {
                 ::_exit(1);
             }
-            ::prctl(PR_SET_PDEATHSIG, SIGINT);
+            ::prctl(PR_SET_PDEATHSIG, SIGQUIT);
         });
     }
 
