@@ -75,7 +75,8 @@ TEST_F(AccessibilityTest, AScreenReaderReadsAndOperatesTheWindows)
     reader({u"find"_s, u"text"_s, u"Search transcriptions"_s});
 
     reader({u"press"_s, u"push button"_s, u"Edit groups"_s});
-    reader({u"write"_s, u"text"_s, u"New group"_s, u"Errands"_s});
+    reader({u"focus"_s, u"text"_s, u"New group"_s});
+    run(u"xdotool"_s, {u"type"_s, u"Errands"_s}, environment);
     reader({u"press"_s, u"push button"_s, u"Add"_s});
     EXPECT_TRUE(await([this] { return read(u"groups.json"_s).contains("Errands"); }));
     reader({u"press"_s, u"push button"_s, u"Done"_s});
@@ -84,7 +85,7 @@ TEST_F(AccessibilityTest, AScreenReaderReadsAndOperatesTheWindows)
     for (const auto &[role, name] :
          {std::pair(u"radio button"_s, u"Key combination"_s), std::pair(u"push button"_s, u"Shortcut, *"_s),
           std::pair(u"combo box"_s, u"Behavior"_s), std::pair(u"push button"_s, u"Next group, *"_s),
-          std::pair(u"check box"_s, u"Open at login"_s), std::pair(u"push button"_s, u"Clear…"_s)}) {
+          std::pair(u"check box"_s, u"Open at login"_s)}) {
         EXPECT_NE(reader({u"find"_s, role, name}), QString());
     }
 }

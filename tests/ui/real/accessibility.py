@@ -4,17 +4,19 @@
 
 usage: accessibility.py find ROLE NAME          waits for it and prints its role, name and states
        accessibility.py press ROLE NAME         presses it
-       accessibility.py write ROLE NAME TEXT    puts text into it
+       accessibility.py focus ROLE NAME         gives it the keyboard focus
 A NAME that ends in "*" is the beginning of a name. Exit status 1: not there within ten seconds."""
 
 import sys
 import time
+import warnings
 
 import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
+ACTIONS = {"press": "Press", "focus": "SetFocus"}
 STATES = [Atspi.StateType.FOCUSABLE, Atspi.StateType.SELECTED, Atspi.StateType.CHECKED, Atspi.StateType.ENABLED]
 
 
@@ -47,15 +49,14 @@ def find(role, name):
 
 
 def main():
+    warnings.simplefilter("ignore")  # old and new names of the same calls
     Atspi.init()
     command, role, name = sys.argv[1:4]
     node = find(role, name)
-    if command == "press":
+    if command in ACTIONS:
         action = node.get_action_iface()
-        names = [Atspi.Action.get_name(action, i) for i in range(action.get_n_actions())]
-        action.do_action(names.index("Press"))
-    elif command == "write":
-        node.get_editable_text_iface().set_text_contents(sys.argv[4])
+        names = [action.get_action_name(i) for i in range(action.get_n_actions())]
+        action.do_action(names.index(ACTIONS[command]))
     states = [state.value_nick for state in STATES if node.get_state_set().contains(state)]
     print(f"{node.get_role_name()}: {node.get_name()} [{' '.join(states)}]")
 
