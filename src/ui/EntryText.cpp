@@ -12,26 +12,25 @@ namespace {
 constexpr qsizetype longestPiece = 4000;
 constexpr qsizetype usualPiece = 1500;
 
-/// The end of the first sentence that ends after `from`, else of the text.
-qsizetype sentenceEnd(QTextBoundaryFinder &sentences, QTextBoundaryFinder &words, qsizetype from, qsizetype size)
+/// How far the first sentence that ends in the text goes; else the first word, else all of it.
+qsizetype firstEnd(const QString &text)
 {
-    sentences.setPosition(from);
-    const qsizetype end = sentences.toNextBoundary();
-    if (end > 0 && end - from <= usualPiece) {
-        return end;
+    for (const auto unit : {QTextBoundaryFinder::Sentence, QTextBoundaryFinder::Word}) {
+        QTextBoundaryFinder finder(unit, text);
+        const qsizetype end = finder.toNextBoundary();
+        if (end > 0 && end < text.size()) {
+            return end;
+        }
     }
-    words.setPosition(from);
-    const qsizetype word = words.toNextBoundary();
-    return word > 0 ? word : size;
+    return text.size();
 }
 
 void appendPieces(const QString &paragraph, QStringList &pieces)
 {
-    QTextBoundaryFinder sentences(QTextBoundaryFinder::Sentence, paragraph);
-    QTextBoundaryFinder words(QTextBoundaryFinder::Word, paragraph);
     qsizetype start = 0;
     while (paragraph.size() - start > longestPiece) {
-        const qsizetype end = sentenceEnd(sentences, words, start + usualPiece, paragraph.size());
+        const qsizetype usualEnd = start + usualPiece;
+        const qsizetype end = usualEnd + firstEnd(paragraph.mid(usualEnd, usualPiece));
         pieces.append(paragraph.mid(start, end - start).trimmed());
         start = end;
     }

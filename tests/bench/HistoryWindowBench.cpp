@@ -32,6 +32,7 @@ constexpr int processes = 5;
 constexpr int entries = 100'000;
 constexpr int words = 32;
 constexpr int rowsOnScreen = 5;
+constexpr int longWords = 20'000;
 constexpr double frame = 16;
 
 QString text(std::mt19937 &random)
@@ -144,14 +145,35 @@ void measureSearch(QQuickView &view)
     }
 }
 
-void measureScrolling(QQuickView &view)
+void measureScrolling(QQuickView &view, const char *name)
 {
     QQuickItem *const list = find(view.rootObject(), "QQuickListView");
     for (int i = 0; i < 200; ++i) {
         const double to = list->property("contentY").toDouble() + 90; // a brisk turn of the wheel
-        print("scroll", untilFrame(
-                            view, [&] { list->setProperty("contentY", to); }, [] { return true; }));
+        print(name, untilFrame(
+                        view, [&] { list->setProperty("contentY", to); }, [] { return true; }));
     }
+}
+
+double timeToFirstFrame(HistoryWindow &window, QQuickView *&view)
+{
+    int frames = 0;
+    const Instant from = std::chrono::steady_clock::now();
+    window.show(false);
+    QObject::connect(view, &QQuickWindow::frameSwapped, view, [&] { ++frames; });
+    if (!await([&] { return frames > 0; })) {
+        throw std::runtime_error("nothing was drawn");
+    }
+    return milliseconds(from, std::chrono::steady_clock::now());
+}
+
+void measureLongTranscript()
+{
+    Windows windows;
+    windows.store.add(u"This is a sentence of nine words, no more. "_s.repeated(longWords / 9), std::nullopt);
+    print("longOpen", timeToFirstFrame(*windows.history, windows.historyView));
+    pause(300ms);
+    measureScrolling(*windows.historyView, "longScroll");
 }
 
 void measureWindow(const QByteArray &history)
@@ -176,16 +198,12 @@ void measureWindow(const QByteArray &history)
     pause(300ms);
     malloc_trim(0); // what reading the history has left free is not to be mistaken for memory saved
     const double before = residentBytes();
-    int frames = 0;
-    const Instant from = std::chrono::steady_clock::now();
-    window.show(false);
-    QObject::connect(view, &QQuickWindow::frameSwapped, view, [&] { ++frames; });
-    await([&] { return frames > 0; });
-    print("open", milliseconds(from, std::chrono::steady_clock::now()));
+    print("open", timeToFirstFrame(window, view));
     pause(1s);
     measureSearch(*view);
     print("memory", residentBytes() - before);
-    measureScrolling(*view);
+    measureScrolling(*view, "scroll");
+    measureLongTranscript();
 }
 
 void measure()
@@ -217,6 +235,10 @@ void measure()
     limited(u"history window of 100,000: the slowest keystroke"_s, u"ms"_s, worst(figures["keystroke"]), frame);
     limited(u"history window of 100,000: scrolling by 90 points to frame"_s, u"ms"_s, median(figures["scroll"]), frame);
     limited(u"history window of 100,000: the slowest frame of scrolling"_s, u"ms"_s, worst(figures["scroll"]), frame);
+    limited(u"history window with a transcript of 20,000 words: show to first frame"_s, u"ms"_s,
+            median(figures["longOpen"]), 150);
+    limited(u"history window with a transcript of 20,000 words: the slowest frame of scrolling"_s, u"ms"_s,
+            worst(figures["longScroll"]), frame);
     report({u"history window of 100,000: memory after searching (reference: the texts)"_s, u"MB"_s,
             median(figures["memory"]) / 1e6, textBytes / 1e6, 2});
 }
