@@ -3,9 +3,7 @@
 
 #include "service/HttpConnection.h"
 
-#include <QCoroFuture>
-#include <QPromise>
-
+#include <coroutine>
 #include <utility>
 
 HttpTransport::HttpTransport(std::chrono::milliseconds timeout) : m_timeout(timeout) {}
@@ -18,17 +16,39 @@ HttpTransport::~HttpTransport()
     m_threads.waitForDone();
 }
 
+/// Awaiting it runs one exchange in a thread and resumes on the main thread.
+class HttpTransport::Exchange {
+public:
+    Exchange(HttpTransport &transport, HttpConnection &connection, const HttpRequest &request)
+        : m_transport(transport), m_connection(connection), m_request(request)
+    {
+    }
+
+    static bool await_ready() noexcept { return false; }
+
+    void await_suspend(std::coroutine_handle<> waiting)
+    {
+        m_transport.m_threads.start([this, waiting] {
+            m_response = m_connection.exchange(m_request, m_transport.m_timeout);
+            QMetaObject::invokeMethod(
+                &m_transport.m_deliveries, [waiting] { waiting.resume(); }, Qt::QueuedConnection);
+        });
+    }
+
+    std::optional<HttpResponse> await_resume() { return std::move(m_response); }
+
+private:
+    HttpTransport &m_transport;
+    HttpConnection &m_connection;
+    const HttpRequest &m_request;
+    std::optional<HttpResponse> m_response;
+};
+
 QCoro::Task<std::optional<HttpResponse>> HttpTransport::perform(HttpRequest request)
 {
     HttpConnection *const connection = takeIdle();
-    auto promise = std::make_shared<QPromise<std::optional<HttpResponse>>>();
-    const auto future = promise->future();
-    promise->start();
-    m_threads.start([connection, promise, timeout = m_timeout, sent = std::move(request)] {
-        promise->addResult(connection->exchange(sent, timeout));
-        promise->finish();
-    });
-    const std::optional<HttpResponse> response = co_await future;
+    Exchange exchange(*this, *connection, request);
+    std::optional<HttpResponse> response = co_await exchange;
     m_idle.push_back(connection);
     co_return response;
 }

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QCoroTask>
 #include <QList>
+#include <QObject>
 #include <QPair>
 #include <QThreadPool>
 #include <QUrl>
@@ -37,17 +38,20 @@ public:
     explicit HttpTransport(std::chrono::milliseconds timeout);
     HttpTransport(const HttpTransport &) = delete;
     HttpTransport &operator=(const HttpTransport &) = delete;
-    /// Breaks off what is under way.
+    /// Breaks off what is under way. Who waits for it is never resumed: its owner is going, too.
     ~HttpTransport();
 
     /// Nothing when no complete response arrived: offline, name resolution, TLS, connection lost, time-out.
     QCoro::Task<std::optional<HttpResponse>> perform(HttpRequest request);
 
 private:
+    class Exchange;
+
     HttpConnection *takeIdle();
 
     std::chrono::milliseconds m_timeout;
     std::vector<std::unique_ptr<HttpConnection>> m_connections;
     std::vector<HttpConnection *> m_idle;
     QThreadPool m_threads;
+    QObject m_deliveries; ///< drops the answers that arrive too late
 };

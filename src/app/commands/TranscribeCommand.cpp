@@ -81,14 +81,19 @@ private:
         QPromise<std::optional<LocalizedError>> promise;
         promise.start();
         const QFuture<std::optional<LocalizedError>> done = promise.future();
+        Output::progress(u"Reading…"_s);
         QThreadPool::globalInstance()->start([this, source, &promise] {
             std::optional<LocalizedError> failure;
             try {
-                m_soundFiles.convert(source, m_recording, AudioRecorder::settings(), [this](double part) {
-                    const QString percent = part < 0 ? QString() : u" %1 %"_s.arg(static_cast<int>(part * 100));
-                    Output::progress(u"Reading…"_s + percent);
-                    return !m_isStopped;
-                });
+                m_soundFiles.convert(source, m_recording, AudioRecorder::settings(),
+                                     [this, shown = -1](double part) mutable {
+                                         const int percent = static_cast<int>(part * 100);
+                                         if (part >= 0 && percent != shown) {
+                                             shown = percent;
+                                             Output::progress(u"Reading… %1 %"_s.arg(percent));
+                                         }
+                                         return !m_isStopped;
+                                     });
             } catch (const LocalizedError &error) {
                 failure = error;
             }
