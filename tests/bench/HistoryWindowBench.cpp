@@ -160,7 +160,8 @@ double timeToFirstFrame(HistoryWindow &window, QQuickView *&view)
     int frames = 0;
     const Instant from = std::chrono::steady_clock::now();
     window.show(false);
-    QObject::connect(view, &QQuickWindow::frameSwapped, view, [&] { ++frames; });
+    QObject scope; // ends the connection
+    QObject::connect(view, &QQuickWindow::frameSwapped, &scope, [&] { ++frames; });
     if (!await([&] { return frames > 0; })) {
         throw std::runtime_error("nothing was drawn");
     }
@@ -218,7 +219,9 @@ void measure()
         environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
         environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
         ChildProcess child(QCoreApplication::applicationFilePath(), {history}, environment);
-        child.wait(120s);
+        if (child.wait(120s) != 0) {
+            throw std::runtime_error(child.process().readAllStandardError().toStdString());
+        }
         for (const QByteArray &line : child.process().readAllStandardOutput().split('\n')) {
             if (const auto parts = line.split(' '); parts.size() == 2) {
                 figures[parts.first()].push_back(parts.last().toDouble());
