@@ -51,8 +51,15 @@ TrayItem::TrayItem(Clock &clock, QDBusConnection bus)
 {
     m_bus.registerObject(itemPath, &m_itemObject);
     m_bus.registerObject(menuPath, &m_menuObject);
-    connect(&m_watchers, &QDBusServiceWatcher::serviceRegistered, this, &TrayItem::registerItem);
-    connect(&m_watchers, &QDBusServiceWatcher::serviceUnregistered, this, [this] { setHostPresent(false); });
+    // Not serviceRegistered: a panel that waited for the name gets it without a moment in which nobody has it.
+    connect(&m_watchers, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString & /*service*/, const QString & /*before*/, const QString &owner) {
+                if (owner.isEmpty()) {
+                    setHostPresent(false);
+                } else {
+                    registerItem();
+                }
+            });
     m_bus.connect(watcherService, watcherPath, watcherService, u"StatusNotifierHostRegistered"_s, this,
                   SLOT(askForHost()));
     m_bus.connect(watcherService, watcherPath, watcherService, u"StatusNotifierHostUnregistered"_s, this,
