@@ -66,8 +66,8 @@ struct Composition::Parts {
 
     QQmlEngine engine;
     std::unique_ptr<StatusPanel> preparedPanel;
+    std::optional<ViewModel> viewModel; // watched by the views in the model's windows
     std::optional<AppModel> model;
-    std::optional<ViewModel> viewModel;
     std::optional<MenuBarExtra> menuBarExtra;
 };
 
