@@ -55,7 +55,10 @@ void RemoteControl::setTarget(AppModel &model, Application &application)
         if (model.state().value == AppModel::State::Case::Idle) {
             m_isHeld = false; // the dictation that the press began is over, however it ended
         }
-        Q_EMIT m_interface->StateChanged(stateName(model.state()));
+        if (const QString state = stateName(model.state()); state != m_announced) {
+            m_announced = state; // a recording that goes on hands-free is the same state to others
+            Q_EMIT m_interface->StateChanged(state);
+        }
     });
 }
 

@@ -52,5 +52,6 @@ private:
     RemoteInterface *m_interface;
     AppModel *m_model = nullptr;
     std::map<QString, std::function<void()>> m_actions;
+    QString m_announced;   ///< the state that others heard of last
     bool m_isHeld = false; ///< pressed by command and not released yet
 };
