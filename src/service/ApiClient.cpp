@@ -135,7 +135,7 @@ QCoro::Task<HttpResponse> ApiClient::exchange(Call call)
 QCoro::Task<QString> ApiClient::deviceCredential()
 {
     if (m_credential) {
-        co_return *m_credential;
+        co_return QString(*m_credential); // a copy: QCoro moves what it is given, an lvalue that isn't const too
     }
     if (const std::optional<QString> stored = co_await m_keychain.read(credentialAccount)) {
         m_credential = stored;

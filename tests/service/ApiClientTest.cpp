@@ -107,6 +107,16 @@ TEST_F(ApiClientTest, TheFirstRequestRegistersTheDeviceAndKeepsItsCredential)
     EXPECT_EQ(server.count("/v1/devices"), 1);
 }
 
+TEST_F(ApiClientTest, EveryRequestNamesTheSameDevice)
+{
+    auto api = client();
+    for (int i = 0; i < 4; ++i) {
+        resultOf(api.balance());
+        EXPECT_EQ(server.requests().last().headers.value("authorization"), "Bearer dev.s3cret");
+    }
+    EXPECT_EQ(server.count("/v1/devices"), 1);
+}
+
 TEST_F(ApiClientTest, TheBaseUrlIsThePreferenceElseThePackagedValue)
 {
     struct Row {
