@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "support/Await.h"
+#include "ui/ConsentView.h"
 #include "ui/DisclosureView.h"
 #include "ui/HUDModel.h"
 #include "ui/Paper.h"
+#include "ui/ViewWindow.h"
 #include "ui/Windows.h"
 
 #include <QDir>
@@ -97,7 +99,7 @@ void takeHistory()
     model->setProperty("search", QString());
     QMetaObject::invokeMethod(model, "copy", Q_ARG(int, 0));
     windows.model.insert(u"state"_s, u"recording"_s);
-    windows.model.insert(u"statusText"_s, u"Listening"_s);
+    windows.model.insert(u"statusText"_s, u"Listening… (Esc to cancel)"_s);
     windows.groups.setActiveId(windows.groups.groups().first().id);
     QMetaObject::invokeMethod(model, "copy", Q_ARG(int, 0));
     save(view, u"history-group-recording"_s);
@@ -135,6 +137,22 @@ void takeSettings(const QString &scheme)
     save(view, u"settings-warnings-"_s + scheme);
 }
 
+void takeConsent(const QString &scheme)
+{
+    FakePlatform fake;
+    QQmlEngine engine;
+    AIConsent consent(fake.preferences, fake.clock);
+    fake.packagedInfo.values = {{u"QLOOpenAIPrivacyURL"_s, u"https://openai.example/"_s},
+                                {u"QLOPrivacyPolicyURL"_s, u"https://quillo.example/"_s}};
+    for (const bool isReview : {false, true}) {
+        DisclosureView disclosure(isReview, consent, fake.packagedInfo, [](bool) {});
+        const auto window = makeConsentWindow(engine, disclosure);
+        window->show();
+        save(static_cast<QQuickWindow &>(*window), (isReview ? u"consent-review-"_s : u"consent-first-"_s) + scheme);
+        consent.grant();
+    }
+}
+
 void takeHUD()
 {
     QQmlEngine engine;
@@ -142,8 +160,8 @@ void takeHUD()
         {u"hud-recording"_s, HUDPhase::Recording{}},
         {u"hud-recording-hands-free"_s, HUDPhase::Recording{true}},
         {u"hud-transcribing"_s, HUDPhase::Transcribing{}},
-        {u"hud-message"_s, HUDPhase::Message{u"Copied — press Ctrl+V to paste"_s}},
-        {u"hud-error"_s, HUDPhase::Message{u"The server could not be reached. Check your connection."_s, true}},
+        {u"hud-message"_s, HUDPhase::Message{u"Copied — press ⌘V to paste"_s}},
+        {u"hud-error"_s, HUDPhase::Message{u"Network error. Please check your connection."_s, true}},
         {u"hud-group"_s, HUDPhase::Group{u"Work"_s}},
         {u"hud-group-long"_s, HUDPhase::Group{u"Weekly planning notes and everything else"_s}},
         {u"hud-out-of-tokens"_s, HUDPhase::OutOfTokens{}},
@@ -153,15 +171,12 @@ void takeHUD()
         HUDModel model;
         model.setPhase(phase);
         model.setLevel(0.6F);
-        engine.addImportPath(u"qrc:/qt/qml"_s);
-        QQuickView view(&engine, nullptr);
-        view.setColor(QColor(0x8a, 0x93, 0xa0));
-        view.setInitialProperties({{u"model"_s, QVariant::fromValue(&model)}});
-        view.setResizeMode(QQuickView::SizeRootObjectToView);
-        view.resize(280, 56);
-        view.setSource(QUrl(u"qrc:/qt/qml/Quillo/views/HUDView.qml"_s));
-        view.show();
-        save(view, name);
+        const auto view = makeViewWindow(engine, u"HUDView"_s, {{u"model"_s, QVariant::fromValue(&model)}});
+        view->setColor(QColor(0x8a, 0x93, 0xa0));
+        view->setResizeMode(QQuickView::SizeRootObjectToView);
+        view->resize(280, 56);
+        view->show();
+        save(*view, name);
     }
 }
 
@@ -192,8 +207,10 @@ int main(int argc, char *argv[])
         setDark(false);
         takeHistory();
         takeSettings(u"light"_s);
+        takeConsent(u"light"_s);
         setDark(true);
         takeSettings(u"dark"_s);
+        takeConsent(u"dark"_s);
         takeHUD();
         return 0;
     } catch (const std::exception &error) {

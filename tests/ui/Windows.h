@@ -23,7 +23,7 @@ struct Windows {
         const auto text = [](const char *utf8) { return QString::fromUtf8(utf8); };
         for (const auto &[name, value] : std::initializer_list<std::pair<const char *, QVariant>>{
                  {"state", text("idle")},
-                 {"statusText", text("Ready — hold ⌃⌥ Space and speak")},
+                 {"statusText", text("Hold or tap ⌃⌥ Space to dictate")},
                  {"balance", 4821},
                  {"isUnmetered", false},
                  {"shortcutLabel", text("⌃⌥ Space")},
@@ -37,8 +37,8 @@ struct Windows {
                                                  text("Right ⌃ Control"), text("Fn (🌐)")}},
                  {"isFnKey", false},
                  {"triggerMode", 0},
-                 {"triggerModeLabels",
-                  QStringList{text("Tap to toggle, hold to talk"), text("Hold to talk"), text("Tap to toggle")}},
+                 {"triggerModeLabels", QStringList{text("Hold to talk, or tap for hands-free"),
+                                                   text("Hold to talk only"), text("Tap to start and stop")}},
                  {"isMicrophoneGranted", true},
                  {"isTrusted", true},
                  {"hasConsent", true},
