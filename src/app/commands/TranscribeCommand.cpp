@@ -20,6 +20,7 @@
 
 #include <atomic>
 #include <cstdio>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -78,11 +79,12 @@ public:
 private:
     QCoro::Task<void> convert(const QString &source)
     {
-        QPromise<std::optional<LocalizedError>> promise;
-        promise.start();
-        const QFuture<std::optional<LocalizedError>> done = promise.future();
+        // Shared: whoever waits may go on before the thread has left finish().
+        const auto promise = std::make_shared<QPromise<std::optional<LocalizedError>>>();
+        promise->start();
+        const QFuture<std::optional<LocalizedError>> done = promise->future();
         Output::progress(u"Reading…"_s);
-        QThreadPool::globalInstance()->start([this, source, &promise] {
+        QThreadPool::globalInstance()->start([this, source, promise] {
             std::optional<LocalizedError> failure;
             try {
                 m_soundFiles.convert(source, m_recording, AudioRecorder::settings(),
@@ -97,8 +99,8 @@ private:
             } catch (const LocalizedError &error) {
                 failure = error;
             }
-            promise.addResult(failure);
-            promise.finish();
+            promise->addResult(failure);
+            promise->finish();
         });
         const std::optional<LocalizedError> failure = co_await done;
         if (failure) {
