@@ -23,6 +23,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QByteArray uploadRequest = "POST /v1/transcribe";
+const QByteArray balanceRequest = "GET /v1/balance";
 
 /// Wider than a text cursor, which blinks by itself.
 constexpr int narrowestText = 8;
@@ -56,15 +57,22 @@ Speech Speech::goForward()
     return {u"/usr/share/pocketsphinx/test/data/goforward.raw"_s, 16000};
 }
 
-Desktop::Desktop()
+Desktop::Desktop(const DesktopOptions &options)
     : m_backend(QStringLiteral(QUILLO_BACKEND_PROGRAM),
-                {u"--port"_s, u"0"_s, u"--database"_s, m_session.path(u"backend.db"_s)}, m_session.environment()),
-      m_tap(listeningPort(m_backend))
+                QStringList{u"--port"_s, u"0"_s, u"--database"_s, m_session.path(u"backend.db"_s)} +
+                    options.serverOptions,
+                m_session.environment()),
+      m_tap(listeningPort(m_backend)),
+      m_hasConsent(options.hasConsent)
 {
     run(u"xsetroot"_s, {u"-solid"_s, u"#4d7ea8"_s}, environment());
     writePreferences();
-    startEditor();
-    startQuillo();
+    if (options.hasEditor) {
+        startEditor();
+    }
+    if (options.isStarted) {
+        start();
+    }
 }
 
 quint16 Desktop::listeningPort(ChildProcess &backend)
@@ -75,11 +83,13 @@ quint16 Desktop::listeningPort(ChildProcess &backend)
 
 void Desktop::writePreferences() const
 {
-    QDir().mkpath(m_session.configFolder() + u"/Quillo"_s);
-    QFile file(m_session.configFolder() + u"/Quillo/Quillo.conf"_s);
+    QDir().mkpath(QFileInfo(preferencesFile()).path());
+    QFile file(preferencesFile());
     require(file.open(QIODevice::WriteOnly), "the preferences can't be written");
-    file.write("[General]\napiURL=" + m_tap.url().toUtf8() +
-               "\naiConsent=\"@ByteArray({\\\"version\\\":1,\\\"grantedAt\\\":790000000})\"\n");
+    file.write("[General]\napiURL=" + m_tap.url().toUtf8() + '\n');
+    if (m_hasConsent) {
+        file.write("aiConsent=\"@ByteArray({\\\"version\\\":1,\\\"grantedAt\\\":790000000})\"\n");
+    }
 }
 
 QProcessEnvironment Desktop::environment() const
@@ -121,11 +131,42 @@ void Desktop::startEditor()
     m_user.sync();
 }
 
-void Desktop::startQuillo()
+void Desktop::start()
 {
+    const int before = m_tap.count(balanceRequest);
     m_quillo = std::make_unique<ChildProcess>(QStringLiteral(QUILLO_PROGRAM), QStringList{}, environment());
-    // The first balance is asked for once the shortcuts are armed.
-    require(await([this] { return m_tap.count("GET /v1/balance") > 0; }), "quillo did not ask for the balance");
+    // With consent the first balance is asked for once the shortcuts are armed, else the consent window opened.
+    const bool isUp = await(
+        [&] { return m_hasConsent ? m_tap.count(balanceRequest) > before : !windowNamed(u"Quillo"_s).isEmpty(); });
+    require(isUp, "quillo did not start");
+}
+
+QByteArray Desktop::windowNamed(const QString &title) const
+{
+    ChildProcess search(u"xdotool"_s, {u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"^%1$"_s.arg(title)},
+                        environment());
+    search.wait(); // fails when there is none
+    return search.process().readAllStandardOutput().trimmed();
+}
+
+Desktop::Outcome Desktop::command(const QStringList &arguments, const QByteArray &input) const
+{
+    ChildProcess process(QStringLiteral(QUILLO_PROGRAM), arguments, environment());
+    process.process().write(input);
+    process.process().closeWriteChannel();
+    const int status = process.wait();
+    return {status, QString::fromUtf8(process.process().readAllStandardOutput()),
+            QString::fromUtf8(process.process().readAllStandardError())};
+}
+
+QJsonObject Desktop::status() const
+{
+    return QJsonDocument::fromJson(command({u"status"_s, u"--json"_s}).output.toUtf8()).object();
+}
+
+bool Desktop::awaitStatus(const QString &key, const QJsonValue &value) const
+{
+    return await([&] { return status().value(key) == value; });
 }
 
 Desktop::Dictation Desktop::dictate(const Speech &speech, const std::function<void()> &whileListening,

@@ -8,7 +8,9 @@
 #include "support/VirtualDisplay.h"
 #include "support/WireTap.h"
 
+#include <QJsonObject>
 #include <QString>
+#include <QStringList>
 
 #include <chrono>
 #include <functional>
@@ -24,8 +26,17 @@ struct Speech {
     static Speech goForward();
 };
 
-/// A whole desktop for one run: session, screen, virtual microphone, keyring, the server, the program with consent
-/// given, and a text editor in front. Everything is its own and ends with it; what fails throws std::runtime_error.
+struct DesktopOptions {
+    /// On record before the program starts.
+    bool hasConsent = true;
+    /// In front, with the focus.
+    bool hasEditor = true;
+    bool isStarted = true;
+    QStringList serverOptions = {};
+};
+
+/// A whole desktop for one run: session, screen, virtual microphone, keyring, the server, the program, and a text
+/// editor. Everything is its own and ends with it; what fails throws std::runtime_error.
 class Desktop {
 public:
     using Instant = std::chrono::steady_clock::time_point;
@@ -42,8 +53,26 @@ public:
         QString text;
     };
 
-    /// The program has its shortcuts armed and the editor has the focus when the constructor returns.
-    Desktop();
+    /// What one command of the program came to.
+    struct Outcome {
+        int status = -1;
+        QString output;
+        QString errors;
+
+        bool operator==(const Outcome &) const = default;
+    };
+
+    /// A program that is started has its shortcuts armed when the constructor returns.
+    explicit Desktop(const DesktopOptions &options = {});
+
+    /// Starts the program and waits until its shortcuts are armed and, without consent, its question is asked.
+    void start();
+    /// A second process of the program, as `quillo ARGUMENTS` in a terminal; runs to its end.
+    Outcome command(const QStringList &arguments, const QByteArray &input = {}) const;
+    /// What `quillo status --json` prints; empty when the program isn't running.
+    QJsonObject status() const;
+    /// Waits until the status has the value.
+    bool awaitStatus(const QString &key, const QJsonValue &value) const;
 
     /// Holds the dictation shortcut while the recording is played and lets go. The two functions run while the program
     /// listens and while it transcribes; what they take is not part of any figure but their own.
@@ -52,6 +81,9 @@ public:
 
     /// What stands in the editor, as it saves it: waits until that is `expected`, and returns what it was last.
     QString awaitEditorText(const QString &expected);
+
+    /// The visible windows of that title, as decimal numbers in lines.
+    QByteArray windowNamed(const QString &title) const;
 
     void setClipboard(const QByteArray &text);
     QByteArray clipboard() const;
@@ -63,13 +95,15 @@ public:
     QProcessEnvironment environment() const;
     const Session &session() const { return m_session; }
     const WireTap &tap() const { return m_tap; }
+    ChildProcess &server() { return m_backend; }
+    const VirtualDisplay &display() const { return m_display; }
+    QString preferencesFile() const { return m_session.configFolder() + QStringLiteral("/Quillo/Quillo.conf"); }
     TestClient &user() { return m_user; }
     ChildProcess &quillo() { return *m_quillo; }
 
 private:
     static quint16 listeningPort(ChildProcess &backend);
     void writePreferences() const;
-    void startQuillo();
     void startEditor();
     QString savedText();
     Instant awaitRawKey(int evdevCode);
@@ -84,4 +118,5 @@ private:
     std::unique_ptr<ChildProcess> m_editor;
     std::unique_ptr<ChildProcess> m_quillo;
     xcb_window_t m_editorWindow = 0;
+    bool m_hasConsent;
 };

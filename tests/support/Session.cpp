@@ -16,8 +16,10 @@ Session::Session(Keyring keyring)
         QDir().mkpath(folder);
         QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
-    m_bus = std::make_unique<ChildProcess>(
-        u"dbus-daemon"_s, QStringList{u"--session"_s, u"--nofork"_s, u"--print-address"_s}, environment());
+    QProcessEnvironment own = environment();
+    own.remove(u"DISPLAY"_s); // what the bus starts shall not come up on the display of whoever runs the test
+    m_bus = std::make_unique<ChildProcess>(u"dbus-daemon"_s,
+                                           QStringList{u"--session"_s, u"--nofork"_s, u"--print-address"_s}, own);
     m_busAddress = m_bus->readLine();
     if (keyring == Keyring::None) {
         return;
@@ -33,6 +35,14 @@ Session::Session(Keyring keyring)
     if (!isOpen) {
         throw std::runtime_error("the keyring did not open");
     }
+}
+
+void Session::lockKeyring() const
+{
+    run(u"dbus-send"_s,
+        {u"--session"_s, u"--print-reply"_s, u"--dest=org.freedesktop.secrets"_s, u"/org/freedesktop/secrets"_s,
+         u"org.freedesktop.Secret.Service.Lock"_s, u"array:objpath:/org/freedesktop/secrets/collection/login"_s},
+        environment());
 }
 
 bool Session::ownsName() const

@@ -22,6 +22,10 @@ public:
     /// Makes it the session of this process, for libraries that read the environment.
     void use() const;
 
+    /// Locks the keyring, as a log-in without a password leaves it.
+    void lockKeyring() const;
+
+    QString busAddress() const { return m_busAddress; }
     QString runtimeFolder() const { return m_folder.filePath(QStringLiteral("run")); }
     QString configFolder() const { return m_folder.filePath(QStringLiteral("config")); }
     QString dataFolder() const { return m_folder.filePath(QStringLiteral("data")); }

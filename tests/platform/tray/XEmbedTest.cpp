@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "FakeClock.h"
+#include "Panel.h"
+#include "TestClient.h"
+#include "platform/tray/TrayItem.h"
+#include "support/Await.h"
+#include "support/Session.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QMenu>
+
+#include <gtest/gtest.h>
+#include <linux/input-event-codes.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+const VirtualDisplay *display = nullptr; // one for the whole program: an application has one display
+
+// The grounds of the symbols.
+constexpr QRgb dark = qRgb(0x1a, 0x16, 0x12);
+constexpr QRgb red = qRgb(0xc9, 0x55, 0x3b);
+
+/// A tray that takes windows in, in the screen's upper left corner.
+class XEmbedTest : public testing::Test {
+protected:
+    XEmbedTest()
+    {
+        item.setLabel(u"waveform"_s, u"Work"_s);
+        item.setMenu({{.kind = MenuItem::Kind::Text, .title = u"Ready"_s},
+                      {.kind = MenuItem::Kind::Button, .title = u"Choose"_s, .action = [this] { ++choices; }}});
+    }
+    ~XEmbedTest() override { QDBusConnection::disconnectFromBus(bus.name()); }
+
+    /// The part of the screen where the tray is.
+    QImage screen()
+    {
+        const XcbPtr<xcb_get_image_reply_t> image(xcb_get_image_reply(
+            user.xcb(),
+            xcb_get_image(user.xcb(), XCB_IMAGE_FORMAT_Z_PIXMAP, user.root(), 0, 0, static_cast<uint16_t>(bar.width()),
+                          static_cast<uint16_t>(bar.height()), UINT32_MAX),
+            nullptr));
+        return QImage(xcb_get_image_data(image.get()), bar.width(), bar.height(), QImage::Format_RGB32).copy();
+    }
+
+    /// What of the screen has the colour of a symbol's ground.
+    QRect symbol(QRgb ground)
+    {
+        const QImage image = screen();
+        QRect area;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                area |= image.pixel(x, y) == ground ? QRect(x, y, 1, 1) : QRect();
+            }
+        }
+        return area;
+    }
+
+    bool awaitSymbol(QRgb ground)
+    {
+        return await([&] { return symbol(ground).width() >= 16 && symbol(ground).height() >= 16; });
+    }
+
+    static constexpr QSize bar{200, 32};
+    ChildProcess tray{
+        u"trayer"_s,
+        u"--edge top --align left --widthtype pixel --width 200 --heighttype pixel --height 32"_s.split(u' ')};
+    FakeClock clock;
+    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"xembed"_s);
+    TrayItem item{clock, bus};
+    TestClient user{*display};
+    int choices = 0;
+};
+
+} // namespace
+
+TEST_F(XEmbedTest, TheIconStandsInTheTrayUntilAPanelShowsTheItem)
+{
+    clock.advance(2999ms);
+    Panel hostless(Panel::Host::Absent); // a registry alone shows nothing to anybody
+    ASSERT_TRUE(await([&] { return !hostless.items().isEmpty(); }));
+    clock.advance(1ms);
+    ASSERT_TRUE(awaitSymbol(dark));
+    item.setLabel(u"record.circle.fill"_s, {});
+    EXPECT_TRUE(awaitSymbol(red));
+
+    hostless.addHost();
+    EXPECT_TRUE(await([this] { return symbol(red).isEmpty(); }));
+    clock.advance(1min);
+    EXPECT_EQ(clock.pending(), 0);
+}
+
+TEST_F(XEmbedTest, APanelThatComesBackSoonLeavesNoSecondIcon)
+{
+    auto panel = std::make_unique<Panel>();
+    ASSERT_TRUE(await([&] { return !panel->items().isEmpty() && clock.pending() == 0; }));
+    panel.reset();
+    ASSERT_TRUE(await([this] { return clock.pending() == 1; })); // waits for it
+    clock.advance(2999ms);
+    const Panel restarted;
+    EXPECT_TRUE(await([this] { return clock.pending() == 0; }));
+}
+
+TEST_F(XEmbedTest, AClickOpensTheMenu)
+{
+    clock.advance(3s);
+    ASSERT_TRUE(awaitSymbol(dark));
+    const QPoint place = symbol(dark).center();
+    user.click(place.x(), place.y());
+    ASSERT_TRUE(await([] { return QApplication::activePopupWidget() != nullptr; }));
+    auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    item.setMenu({{.kind = MenuItem::Kind::Text, .title = u"Listening"_s},
+                  {.kind = MenuItem::Kind::Button, .title = u"A && B"_s, .action = [this] { choices += 10; }}});
+    EXPECT_EQ(QApplication::activePopupWidget(), menu) << "it stays open";
+    EXPECT_EQ(menu->actions().first()->text(), u"Listening"_s);
+    user.tap(KEY_DOWN);
+    user.tap(KEY_ENTER);
+    EXPECT_TRUE(await([this] { return choices == 10; }));
+}
+
+int main(int argc, char **argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    const Session session(Session::Keyring::None);
+    session.use();
+    const VirtualDisplay server(VirtualDisplay::WindowManager::Openbox);
+    server.use();
+    display = &server;
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    const QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
