@@ -39,7 +39,7 @@ QString serverName(const X11Connection &connection)
 QList<Finding> examineX11(X11Connection &connection)
 {
     const auto &has = connection.extensions();
-    QList<Finding> findings{{u"Display server"_s, Level::Good, u"X11, %1"_s.arg(serverName(connection))}};
+    QList<Finding> findings{{u"Display server"_s, Level::Good, u"X11 (%1), backend x11"_s.arg(serverName(connection))}};
     findings.append(has.rawKeys
                         ? Finding{u"Raw keys"_s, Level::Good, u"XInput 2.2"_s}
                         : Finding{u"Raw keys"_s, Level::Note, u"no XInput 2.2: a single key can't be a shortcut"_s,
