@@ -10,10 +10,10 @@
 #include <QObject>
 
 #include <algorithm>
+#include <array>
 #include <gmock/gmock.h>
 #include <linux/input-event-codes.h>
 #include <memory>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -132,10 +132,9 @@ TEST(CommandsTest, WithoutARunningProgramTheySaySoInOneLine)
 TEST(CommandsTest, OfSeveralStartsAtOneMomentOneStaysAndShowsItsHistory)
 {
     const Desktop desktop({.hasEditor = false, .isStarted = false});
-    std::vector<std::unique_ptr<ChildProcess>> starts;
-    for (int i = 0; i < 3; ++i) {
-        starts.push_back(
-            std::make_unique<ChildProcess>(QStringLiteral(QUILLO_PROGRAM), QStringList{}, desktop.environment()));
+    std::array<std::unique_ptr<ChildProcess>, 3> starts;
+    for (auto &start : starts) {
+        start = std::make_unique<ChildProcess>(QStringLiteral(QUILLO_PROGRAM), QStringList{}, desktop.environment());
     }
     const auto running = [&starts] {
         return std::ranges::count_if(

@@ -19,7 +19,7 @@ const QString spoken = u"go forward ten meters\n"_s;
 QString make(const Desktop &desktop, const QString &name, const QStringList &options = {})
 {
     const Speech speech = Speech::goForward();
-    const QString path = desktop.session().path(name);
+    QString path = desktop.session().path(name);
     run(u"ffmpeg"_s, QStringList{u"-v"_s, u"error"_s, u"-f"_s, u"s16le"_s, u"-ar"_s, QString::number(speech.rate),
                                  u"-i"_s, speech.rawFile} +
                          options + QStringList{path});

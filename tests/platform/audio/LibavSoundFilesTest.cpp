@@ -20,7 +20,7 @@ protected:
     /// A file that ffmpeg makes of a tone or a picture.
     QString make(const QString &name, const QString &source, const QString &options = {}) const
     {
-        const QString path = m_folder.filePath(name);
+        QString path = m_folder.filePath(name);
         run(u"ffmpeg"_s, QStringList{u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, source} +
                              options.split(u' ', Qt::SkipEmptyParts) + QStringList{u"file:"_s + path});
         return path;
