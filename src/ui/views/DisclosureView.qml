@@ -146,7 +146,6 @@ Rectangle {
                 anchors.right: parent.right
                 text: view.showsAgreement ? "Keep it on" : "I agree — send to OpenAI"
                 isDefault: true
-                focus: true
                 onClicked: view.answer(true)
             }
         }

@@ -16,7 +16,7 @@ QString browserIn(const QString &folder)
 {
     QFile script(folder + u"/xdg-open"_s);
     EXPECT_TRUE(script.open(QIODevice::WriteOnly));
-    const QString opened = folder + u"/opened"_s;
+    QString opened = folder + u"/opened"_s;
     script.write(u"#!/bin/sh\necho \"$1\" > %1.part && mv %1.part %1\n"_s.arg(opened).toUtf8());
     script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     qputenv("PATH", folder.toUtf8() + ':' + qgetenv("PATH"));
