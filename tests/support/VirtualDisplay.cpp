@@ -3,10 +3,11 @@
 
 using namespace Qt::StringLiterals;
 
-VirtualDisplay::VirtualDisplay(WindowManager windowManager)
+VirtualDisplay::VirtualDisplay(WindowManager windowManager, const QStringList &options)
     // -noreset: the server would start afresh whenever its last client leaves
-    : m_server(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1280x720x24"_s, u"-noreset"_s,
-                           u"-nolisten"_s, u"tcp"_s}),
+    : m_server(u"Xvfb"_s, QStringList{u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1280x720x24"_s, u"-noreset"_s,
+                                      u"-nolisten"_s, u"tcp"_s} +
+                              options),
       m_name(':' + m_server.readLine().toLatin1())
 {
     if (windowManager == WindowManager::Openbox) {

@@ -13,8 +13,9 @@ class VirtualDisplay {
 public:
     enum class WindowManager { None, Openbox };
 
-    /// Both run when the constructor returns; it throws std::runtime_error when one does not start.
-    explicit VirtualDisplay(WindowManager windowManager = WindowManager::None);
+    /// Both run when the constructor returns; it throws std::runtime_error when one does not start. `options` are for
+    /// the X server.
+    explicit VirtualDisplay(WindowManager windowManager = WindowManager::None, const QStringList &options = {});
     VirtualDisplay(const VirtualDisplay &) = delete;
     VirtualDisplay &operator=(const VirtualDisplay &) = delete;
     ~VirtualDisplay();

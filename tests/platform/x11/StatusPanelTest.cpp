@@ -146,6 +146,30 @@ TEST(X11BackendTest, SaysWhyItIsNotUsable)
     display->use();
 }
 
+TEST(X11BackendTest, AServerThatPostsNoKeysIsNotTrustedAndTheExaminationSaysSo)
+{
+    const VirtualDisplay server(VirtualDisplay::WindowManager::None,
+                                {QStringLiteral("-extension"), QStringLiteral("XTEST")});
+    server.use();
+    FakeClock clock;
+    QString whyNot;
+    const auto lesser = X11Backend::create(clock, {}, &whyNot);
+    display->use();
+    ASSERT_TRUE(lesser) << qPrintable(whyNot);
+    EXPECT_FALSE(lesser->accessibility().isTrusted());
+    const auto noted = [](const QList<Finding> &findings) {
+        QStringList subjects;
+        for (const Finding &finding : findings) {
+            if (finding.level != Finding::Level::Good) {
+                subjects.append(finding.subject);
+            }
+        }
+        return subjects;
+    };
+    EXPECT_EQ(noted(lesser->examine()), (QStringList{QStringLiteral("Key posting"), QStringLiteral("Window manager")}));
+    EXPECT_TRUE(noted(X11Backend::create(clock, {}, &whyNot)->examine()).isEmpty());
+}
+
 } // namespace
 
 int main(int argc, char **argv)
