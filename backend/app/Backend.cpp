@@ -60,10 +60,20 @@ std::string urlOf(const net::ip::tcp::endpoint &endpoint)
     return "http://" + host + ":" + std::to_string(endpoint.port());
 }
 
-ApiOptions withPublicUrl(ApiOptions options, const std::string &url)
+/// With the address of checkout links, which is that of the listening socket when the operator names none.
+ApiOptions reachedAt(const net::ip::tcp::endpoint &endpoint, ApiOptions options)
 {
-    if (options.checkout.publicUrl.empty()) {
-        options.checkout.publicUrl = url;
+    using Provider = CheckoutOptions::Provider;
+    auto &checkout = options.checkout;
+    const auto isPublic = !checkout.publicUrl.empty() || !endpoint.address().is_loopback();
+    if (checkout.publicUrl.empty()) {
+        if (endpoint.address().is_unspecified() && checkout.provider != Provider::None) {
+            throw std::runtime_error("public-url is needed for the checkout links, unless checkout is none");
+        }
+        checkout.publicUrl = urlOf(endpoint);
+    }
+    if (checkout.provider == Provider::Manual && isPublic) {
+        logLine("warning: with checkout = \"manual\", everyone who reaches this server can give themselves tokens");
     }
     return options;
 }
@@ -96,7 +106,7 @@ Backend::Backend(const Settings &settings, std::unique_ptr<Engine> engine)
       m_transcriber(std::move(engine), longestRecording, settings.engineQueue),
       m_acceptor(listen(m_io, settings.endpoint)),
       m_url(urlOf(m_acceptor.local_endpoint())),
-      m_api(withPublicUrl(settings.api, m_url), m_store, m_transcriber, systemClock()),
+      m_api(reachedAt(m_acceptor.local_endpoint(), settings.api), m_store, m_transcriber, systemClock()),
       m_server(std::move(m_acceptor), m_api, settings.server, accessLog(m_api.metrics(), settings.accessLog))
 {
     allowManyConnections();

@@ -20,6 +20,7 @@ namespace {
 struct Command {
     QStringList words; ///< those in capitals stand for any word
     QString help;
+    Settings (*settings)(const Options &);
     std::function<void(const Settings &, const QStringList &)> run;
 };
 
@@ -33,17 +34,32 @@ void serve(const Settings &settings, const QStringList &)
 const QList<Command> &commands()
 {
     static const QList<Command> all{
-        {{u"serve"_s}, u"Start the server; the default."_s, serve},
-        {{u"devices"_s, u"list"_s}, u"All devices, the oldest first."_s, listDevices},
-        {{u"devices"_s, u"show"_s, u"ID"_s}, u"One device."_s, showDevice},
-        {{u"devices"_s, u"grant"_s, u"ID"_s, u"TOKENS"_s}, u"Add tokens, or take some (-N)."_s, grantTokens},
-        {{u"devices"_s, u"unmeter"_s, u"ID"_s}, u"Stop charging a device."_s, unmeterDevice},
-        {{u"devices"_s, u"meter"_s, u"ID"_s}, u"Charge it again."_s, meterDevice},
-        {{u"devices"_s, u"revoke"_s, u"ID"_s}, u"Refuse a device's credential for ever."_s, revokeDevice},
-        {{u"ledger"_s}, u"Every change to a balance, and whether they explain all balances."_s, showLedger},
-        {{u"ledger"_s, u"ID"_s}, u"Those of one device."_s, showLedger},
-        {{u"engine"_s, u"test"_s, u"FILE"_s}, u"Transcribe an MPEG-4 file and say how long it took."_s, testEngine},
-        {{u"config"_s, u"check"_s}, u"Read the configuration and say whether it is right."_s, checkConfiguration},
+        {{u"serve"_s}, u"Start the server; the default."_s, settingsOf, serve},
+        {{u"devices"_s, u"list"_s}, u"All devices, the oldest first."_s, storeSettingsOf, listDevices},
+        {{u"devices"_s, u"show"_s, u"ID"_s}, u"One device."_s, storeSettingsOf, showDevice},
+        {{u"devices"_s, u"grant"_s, u"ID"_s, u"TOKENS"_s},
+         u"Add tokens, or take some (-N)."_s,
+         storeSettingsOf,
+         grantTokens},
+        {{u"devices"_s, u"unmeter"_s, u"ID"_s}, u"Stop charging a device."_s, storeSettingsOf, unmeterDevice},
+        {{u"devices"_s, u"meter"_s, u"ID"_s}, u"Charge it again."_s, storeSettingsOf, meterDevice},
+        {{u"devices"_s, u"revoke"_s, u"ID"_s},
+         u"Refuse a device's credential for ever."_s,
+         storeSettingsOf,
+         revokeDevice},
+        {{u"ledger"_s},
+         u"Every change to a balance, and whether they explain all balances."_s,
+         storeSettingsOf,
+         showLedger},
+        {{u"ledger"_s, u"ID"_s}, u"Those of one device."_s, storeSettingsOf, showLedger},
+        {{u"engine"_s, u"test"_s, u"FILE"_s},
+         u"Transcribe an MPEG-4 file and say how long it took."_s,
+         settingsOf,
+         testEngine},
+        {{u"config"_s, u"check"_s},
+         u"Read the configuration and say whether it is right."_s,
+         settingsOf,
+         checkConfiguration},
     };
     return all;
 }
@@ -113,7 +129,7 @@ int run(const QStringList &arguments)
     }
     for (const auto &command : commands()) {
         if (const auto found = match(command, words)) {
-            command.run(settingsOf(Options(parser)), *found);
+            command.run(command.settings(Options(parser)), *found);
             return 0;
         }
     }

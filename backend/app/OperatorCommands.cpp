@@ -16,8 +16,12 @@ namespace {
 
 constexpr int pageSize = 1000;
 
+/// Never a new, empty one: the operator has mistyped where the devices are.
 Store openStore(const Settings &settings)
 {
+    if (!Database::isPostgreSql(settings.database) && !QFile::exists(settings.database)) {
+        throw StoreError("there is no database " + settings.database.toStdString());
+    }
     return {settings.database, settings.grants, systemClock()};
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/Options.h"
 
+#include "support/Log.h"
+
 #include <QDir>
 #include <QFile>
 #include <QUrl>
@@ -43,8 +45,11 @@ QString textOf(const toml::node &node)
         QStringList items;
         for (const auto &item : *array) {
             items.append(textOf(item));
+            if (items.last().isNull()) {
+                return {};
+            }
         }
-        return items.join(u',');
+        return items.isEmpty() ? u""_s : items.join(u',');
     }
     return {};
 }
@@ -67,8 +72,10 @@ QList<QCommandLineOption> Options::all()
         option("registrations-per-hour", "New devices per client address; 0: no limit (60).", "n", "60"),
         option("access-log", "json writes a line per request on the standard error stream (none).", "format", "none"),
         option("database", "SQLite file or postgresql:// URI ($XDG_DATA_HOME/quillo-backend/backend.db).", "database"),
+        option("database-file", "File that holds that URI, if it has a password.", "file"),
         option("engine", "pocketsphinx or openai (pocketsphinx).", "engine", "pocketsphinx"),
-        option("engine-queue", "Recordings that may wait for the engine or be in it (256).", "n", "256"),
+        option("engine-queue", "Recordings that may wait for the engine or be in it (pocketsphinx: 8, openai: 256).",
+               "n"),
         option("openai-base-url", "Server with OpenAI's transcription endpoint (https://api.openai.com/v1).", "url",
                "https://api.openai.com/v1"),
         option("openai-model", "Model to ask that server for (whisper-1).", "model", "whisper-1"),
@@ -207,6 +214,9 @@ std::string Options::secret(const QString &name, const QString &credential) cons
     const auto isPlain = [](char c) { return c > ' ' && c < '\x7f'; };
     if (key.isEmpty() || !std::ranges::all_of(key, isPlain)) {
         fail(name, u"names %1, which must hold one key and nothing else"_s.arg(path));
+    }
+    if (file.permissions().testFlag(QFile::ReadOther)) {
+        logLine("warning: every user of this machine can read " + path.toStdString());
     }
     return key.toStdString();
 }

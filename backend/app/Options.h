@@ -38,7 +38,7 @@ public:
     /// The items of a list that are separated by commas (in the file: an array).
     QStringList list(const QString &name) const;
     /// What is in the file that the option `name` names, else the credential `credential` that systemd passed
-    /// ($CREDENTIALS_DIRECTORY), else an empty text.
+    /// ($CREDENTIALS_DIRECTORY), else an empty text. Warns the operator of a file that everyone can read.
     std::string secret(const QString &name, const QString &credential) const;
 
     /// "config.toml:3: free-tokens", or the option's name elsewhere.

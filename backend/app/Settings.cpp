@@ -12,6 +12,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 mostTokens = 1'000'000'000'000;
+// What waits longer than Quillo does, two minutes, is better refused at once. The embedded engine takes some ten
+// seconds for a dictation, one after the other; a transcription server takes many at a time.
+constexpr qint64 embeddedQueue = 8;
+constexpr qint64 serverQueue = 256;
 
 /// The value that `choices` gives to the option's text.
 template <class T> T choice(const Options &options, const QString &name, const QList<std::pair<QString, T>> &choices)
@@ -38,9 +42,15 @@ net::ip::address addressOf(const Options &options, const QString &name, const QS
 
 QString database(const Options &options)
 {
-    const auto folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     const auto location = options[u"database"_s];
-    return location.isEmpty() ? folder + u"/quillo-backend/backend.db"_s : location;
+    const auto secret = QString::fromStdString(options.secret(u"database-file"_s, u"database"_s));
+    if (!location.isEmpty() && !secret.isEmpty()) {
+        options.fail(u"database"_s, u"must not be set beside database-file or the credential \"database\""_s);
+    }
+    if (location.isEmpty() && secret.isEmpty()) {
+        return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/quillo-backend/backend.db"_s;
+    }
+    return location + secret;
 }
 
 /// Fails when a key would be sent to another machine in the clear.
@@ -99,6 +109,11 @@ CheckoutOptions checkout(const Options &options)
         options, u"checkout"_s,
         {{u"manual"_s, Provider::Manual}, {u"stripe"_s, Provider::Stripe}, {u"none"_s, Provider::None}});
     checkout.publicUrl = options.url(u"public-url"_s);
+    const auto isEverywhere = addressOf(options, u"address"_s, options[u"address"_s]).is_unspecified();
+    if (checkout.publicUrl.empty() && checkout.provider != Provider::None &&
+        (isEverywhere || checkout.provider == Provider::Stripe)) {
+        options.fail(u"public-url"_s, u"is needed for the checkout links, unless checkout is none"_s);
+    }
     checkout.packs = packs(options);
     checkout.currency = options[u"currency"_s].toLower();
     if (!currencyForm.match(checkout.currency).hasMatch()) {
@@ -121,26 +136,35 @@ CheckoutOptions checkout(const Options &options)
 
 } // namespace
 
-Settings settingsOf(const Options &options)
+Settings storeSettingsOf(const Options &options)
 {
     Settings settings;
+    settings.database = database(options);
+    settings.grants.freeTokens = options.number(u"free-tokens"_s, 0, mostTokens);
+    if (!options[u"daily-free-tokens"_s].isEmpty()) {
+        settings.grants.dailyPool = options.number(u"daily-free-tokens"_s, 0, mostTokens);
+    }
+    return settings;
+}
+
+Settings settingsOf(const Options &options)
+{
+    auto settings = storeSettingsOf(options);
     settings.endpoint = {addressOf(options, u"address"_s, options[u"address"_s]),
                          static_cast<uint16_t>(options.number(u"port"_s, 0, 65535))};
     for (const auto &proxy : options.list(u"trusted-proxies"_s)) {
         settings.server.trustedProxies.push_back(addressOf(options, u"trusted-proxies"_s, proxy));
     }
     settings.accessLog = choice<bool>(options, u"access-log"_s, {{u"none"_s, false}, {u"json"_s, true}});
-    settings.database = database(options);
     settings.engine = choice<Settings::EngineKind>(
         options, u"engine"_s,
         {{u"pocketsphinx"_s, Settings::EngineKind::PocketSphinx}, {u"openai"_s, Settings::EngineKind::OpenAi}});
-    settings.engineQueue = static_cast<int>(options.number(u"engine-queue"_s, 1, 100'000));
+    settings.engineQueue = settings.engine == Settings::EngineKind::OpenAi ? serverQueue : embeddedQueue;
+    if (!options[u"engine-queue"_s].isEmpty()) {
+        settings.engineQueue = static_cast<int>(options.number(u"engine-queue"_s, 1, 100'000));
+    }
     if (settings.engine == Settings::EngineKind::OpenAi) {
         settings.openAi = openAi(options);
-    }
-    settings.grants.freeTokens = options.number(u"free-tokens"_s, 0, mostTokens);
-    if (!options[u"daily-free-tokens"_s].isEmpty()) {
-        settings.grants.dailyPool = options.number(u"daily-free-tokens"_s, 0, mostTokens);
     }
     settings.api.transcription.tokensPerSecond = options.number(u"tokens-per-second"_s, 0, 1'000'000);
     settings.api.registrationsPerHour = static_cast<int>(options.number(u"registrations-per-hour"_s, 0, 3600));

@@ -15,7 +15,7 @@ struct Settings {
     net::ip::tcp::endpoint endpoint;
     QString database;
     EngineKind engine = EngineKind::PocketSphinx;
-    int engineQueue = 256;
+    int engineQueue = 0; ///< recordings that may wait for the engine or be in it
     OpenAiOptions openAi;
     GrantPolicy grants;
     ApiOptions api; ///< with an empty public address for the one that the server listens on
@@ -25,6 +25,9 @@ struct Settings {
 
 /// Reads the files that the options name. Throws SettingsError.
 Settings settingsOf(const Options &options);
+
+/// Only where the devices are kept, so that their operator needs none of the server's keys. Throws SettingsError.
+Settings storeSettingsOf(const Options &options);
 
 /// `settings.database` as it may be shown: without a password.
 QString shownDatabase(const QString &database);

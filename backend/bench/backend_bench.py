@@ -124,7 +124,7 @@ def measure_balance(stack, database, name, reference):
 
 
 def measure_uploads(stack, folder, database, name, body):
-    server = Server(stack, BENCH_SERVER, database)
+    server = Server(stack, BENCH_SERVER, database, "--engine-queue=256")
     script = folder / "upload.lua"
     (folder / "body").write_bytes(body)
     script.write_text(f'wrk.method = "POST"\nwrk.body = io.open("{folder}/body", "rb"):read("*a")\n'
