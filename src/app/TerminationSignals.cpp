@@ -35,14 +35,18 @@ TerminationSignals::TerminationSignals(std::function<void()> onSignal)
                      });
     wakeDescriptor = m_descriptor;
     for (const int signal : caught) {
-        std::signal(signal, wake);
+        if (std::signal(signal, wake) == SIG_IGN) {
+            std::signal(signal, SIG_IGN); // whoever started the program wants that, as nohup does
+        }
     }
 }
 
 TerminationSignals::~TerminationSignals()
 {
     for (const int signal : caught) {
-        std::signal(signal, SIG_DFL);
+        if (std::signal(signal, SIG_DFL) == SIG_IGN) {
+            std::signal(signal, SIG_IGN);
+        }
     }
     m_notifier.reset();
     ::close(m_descriptor);

@@ -67,6 +67,31 @@ TEST(TranscribeTest, ShowsItsProgressOnATerminal)
     EXPECT_TRUE(text.trimmed().endsWith(spoken.trimmed())) << text.toStdString();
 }
 
+TEST(TranscribeTest, LeavesNothingBehindWhenInterrupted)
+{
+    Desktop desktop({.hasEditor = false, .isStarted = false});
+    {
+        ChildProcess reading(QStringLiteral(QUILLO_PROGRAM), {u"transcribe"_s, u"-"_s}, desktop.environment());
+        ASSERT_TRUE(await([&desktop] { return left(desktop).size() == 1; })) << "it waits for its input";
+        ::kill(static_cast<pid_t>(reading.pid()), SIGINT);
+        EXPECT_EQ(reading.wait(), 1);
+    }
+    EXPECT_EQ(left(desktop), QStringList());
+
+    const QString wave = make(desktop, u"speech.wav"_s);
+    ASSERT_EQ(desktop.command({u"transcribe"_s, wave}).status, 0); // the device is registered
+    const auto server = static_cast<pid_t>(desktop.server().pid());
+    ::kill(server, SIGSTOP);
+    {
+        ChildProcess uploading(QStringLiteral(QUILLO_PROGRAM), {u"transcribe"_s, wave}, desktop.environment());
+        ASSERT_TRUE(await([&desktop] { return desktop.tap().count("POST /v1/transcribe") == 2; }));
+        ::kill(static_cast<pid_t>(uploading.pid()), SIGTERM);
+        EXPECT_EQ(uploading.wait(), 1);
+    }
+    ::kill(server, SIGCONT);
+    EXPECT_EQ(left(desktop), QStringList());
+}
+
 TEST(TranscribeTest, SaysInOneLineWhyThereIsNoText)
 {
     const Desktop desktop({.hasEditor = false, .isStarted = false});

@@ -13,56 +13,79 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QPromise>
-#include <QScopeGuard>
 #include <QTemporaryFile>
 #include <QThreadPool>
 #include <QTimer>
 
+#include <array>
 #include <atomic>
-#include <cstdio>
 #include <memory>
+#include <poll.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 copySize = 65536;
+/// How long a request to stop may go unseen while standard input has nothing to give.
+constexpr std::chrono::milliseconds stopPatience(100);
 
-/// Standard input in a file of the user's own, for a container's index may stand at its end.
-std::unique_ptr<QTemporaryFile> spooledInput(const Files &files)
+/// Copies standard input to its end into `target`, or until `isStopped`. Any thread.
+void spoolInput(QFile &target, const std::atomic<bool> &isStopped)
 {
-    auto spool = std::make_unique<QTemporaryFile>(files.temporaryFolder() + u"/quillo-input-XXXXXX"_s);
-    QFile input;
-    if (!spool->open() || !input.open(stdin, QIODevice::ReadOnly)) {
-        throw LocalizedError(u"Standard input can't be read."_s);
-    }
-    for (QByteArray piece = input.read(copySize); !piece.isEmpty(); piece = input.read(copySize)) {
-        if (spool->write(piece) != piece.size()) {
+    std::array<char, 65536> piece{};
+    pollfd input{STDIN_FILENO, POLLIN, 0};
+    while (!isStopped) {
+        // A bare read would hold back whoever wants to stop until the input ends.
+        if (::poll(&input, 1, stopPatience.count()) <= 0) {
+            continue;
+        }
+        const ssize_t size = ::read(STDIN_FILENO, piece.data(), piece.size());
+        if (size < 0) {
+            throw LocalizedError(u"Standard input can't be read."_s);
+        }
+        if (size == 0) {
+            break;
+        }
+        if (target.write(piece.data(), size) != size) {
             throw LocalizedError(u"The temporary folder is full."_s);
         }
     }
-    spool->close();
-    return spool;
+    if (!target.flush()) {
+        throw LocalizedError(u"The temporary folder is full."_s);
+    }
 }
 
-/// One file's way to its text.
+/// One file's way to its text. Whatever it wrote is gone with it, in every outcome.
 class Transcription {
 public:
     explicit Transcription(Services &services) : m_services(services) {}
+    Transcription(const Transcription &) = delete;
+    Transcription &operator=(const Transcription &) = delete;
+
+    /// After the event loop, which `run` may still have been waiting for: that is why it is not what cleans up.
+    ~Transcription()
+    {
+        stop();
+        QThreadPool::globalInstance()->waitForDone();
+        AudioRecorder::discard(m_recording);
+    }
 
     QCoro::Task<int> run(QString path)
     {
-        const auto removing = qScopeGuard([this] { AudioRecorder::discard(m_recording); });
         try {
             if (!m_services.consent.isCurrent()) {
                 throw AIConsentError();
             }
-            std::unique_ptr<QTemporaryFile> spool;
-            if (path == u"-") {
-                spool = spooledInput(m_services.files);
-                path = spool->fileName();
+            const bool isSpooled = path == u"-";
+            if (isSpooled) {
+                // A container's index may stand at its end, so the input must be a file.
+                if (!m_spool.open()) {
+                    throw LocalizedError(u"The temporary folder can't be written."_s);
+                }
+                path = m_spool.fileName();
             }
-            co_await convert(path);
+            co_await convert(path, isSpooled);
             watchTheClock();
             const Transcript transcript = co_await m_services.client.transcribe(m_recording);
             Output::progress({});
@@ -77,16 +100,19 @@ public:
     void stop() { m_isStopped = true; }
 
 private:
-    QCoro::Task<void> convert(const QString &source)
+    QCoro::Task<void> convert(QString source, bool isSpooled)
     {
         // Shared: whoever waits may go on before the thread has left finish().
         const auto promise = std::make_shared<QPromise<std::optional<LocalizedError>>>();
         promise->start();
         const QFuture<std::optional<LocalizedError>> done = promise->future();
         Output::progress(u"Reading…"_s);
-        QThreadPool::globalInstance()->start([this, source, promise] {
+        QThreadPool::globalInstance()->start([this, source, isSpooled, promise] {
             std::optional<LocalizedError> failure;
             try {
+                if (isSpooled) {
+                    spoolInput(m_spool, m_isStopped);
+                }
                 m_soundFiles.convert(source, m_recording, AudioRecorder::settings(),
                                      [this, shown = -1](double part) mutable {
                                          const int percent = static_cast<int>(part * 100);
@@ -120,6 +146,7 @@ private:
     Services &m_services;
     LibavSoundFiles m_soundFiles;
     QString m_recording = AudioRecorder::newPath(m_services.files);
+    QTemporaryFile m_spool{m_services.files.temporaryFolder() + u"/quillo-input-XXXXXX"_s};
     std::atomic<bool> m_isStopped = false;
     QElapsedTimer m_elapsed;
     QTimer m_ticks;
@@ -142,8 +169,5 @@ int transcribeCommand(const QString &path)
         QCoreApplication::exit(ExitStatus::failed);
     });
     QTimer::singleShot(0, qApp, [&] { finishWith(transcription.run(path)); });
-    const int status = QCoreApplication::exec();
-    transcription.stop();
-    QThreadPool::globalInstance()->waitForDone();
-    return status;
+    return QCoreApplication::exec();
 }
