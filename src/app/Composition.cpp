@@ -18,8 +18,8 @@
 #include "ui/Paper.h"
 #include "ui/WindowViews.h"
 
-#include <QCoreApplication>
 #include <QDBusConnection>
+#include <QGuiApplication>
 #include <QQmlEngine>
 #include <QWindow>
 
@@ -111,6 +111,8 @@ Composition::Composition(std::unique_ptr<Parts> parts) : m_parts(std::move(parts
                             },
                     });
     p.viewModel.emplace(*p.model);
+    // The desktop has a switch of its own for it, which may have been used since a window of ours was last in front.
+    QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &*p.viewModel, &ViewModel::launchesAtLoginChanged);
     p.menuBarExtra.emplace(*p.model, *p.platform);
 }
 

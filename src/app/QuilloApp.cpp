@@ -16,7 +16,6 @@
 #include <QApplication>
 #include <QIcon>
 #include <QQuickWindow>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -31,7 +30,11 @@ struct Arguments {
 int start(Arguments arguments)
 {
     if (const auto refusal = DisplayChoice::refusal()) {
-        return Output::fail(*refusal, ExitStatus::failed);
+        // A program that runs can be reopened from where another could not be started, such as a bare terminal.
+        const QCoreApplication application(arguments.count, arguments.values);
+        const QDBusConnection bus = QDBusConnection::sessionBus();
+        return RemoteControl::isRunning(bus) ? InstanceCommands::activate(bus)
+                                             : Output::fail(*refusal, ExitStatus::failed);
     }
     DisplayChoice::prepare();
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
@@ -61,9 +64,9 @@ int start(Arguments arguments)
     if (!composition) {
         return Output::fail(whyNot, ExitStatus::failed);
     }
+    AppDelegate(*composition).applicationDidFinishLaunching();
+    // What has been asked of the program meanwhile is served by the event loop, after the launch.
     remote.setTarget(composition->model(), composition->platform().application);
-    AppDelegate delegate(*composition);
-    QTimer::singleShot(0, &application, [&delegate] { delegate.applicationDidFinishLaunching(); });
     const int status = QApplication::exec();
     remote.clearTarget();
     return status;

@@ -57,7 +57,12 @@ void ConsentWindow::dispose()
 bool ConsentWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Close) {
-        complete(false); // by the title bar, or any way other than a button
+        windowWillClose();
     }
     return QObject::eventFilter(watched, event);
+}
+
+void ConsentWindow::windowWillClose()
+{
+    complete(false); // by the title bar, or any way other than a button
 }

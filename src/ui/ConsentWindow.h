@@ -35,6 +35,7 @@ public:
 
 private:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void windowWillClose();
     void complete(bool wantsConsent);
     /// The window and its disclosure may be in the middle of a call: both go when the event loop is reached.
     void dispose();

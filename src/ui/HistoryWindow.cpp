@@ -36,7 +36,7 @@ HistoryWindow::~HistoryWindow()
 {
     m_application.setActivationHandler({});
     if (m_window) {
-        putAway();
+        windowWillClose();
     }
 }
 
@@ -56,7 +56,7 @@ void HistoryWindow::show(bool editingGroups)
 void HistoryWindow::hide()
 {
     if (m_window) {
-        putAway();
+        windowWillClose();
         m_window->hide();
     }
     if (std::ranges::none_of(QGuiApplication::topLevelWindows(), &isTitledAndVisible)) {
@@ -84,7 +84,7 @@ void HistoryWindow::setEditingGroups(bool isEditing)
 bool HistoryWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Close) {
-        putAway();
+        windowWillClose();
     } else if (event->type() == QEvent::FocusIn) {
         m_isInFront = true;
     }
@@ -101,7 +101,7 @@ void HistoryWindow::makeWindow()
     }
 }
 
-void HistoryWindow::putAway()
+void HistoryWindow::windowWillClose()
 {
     if (m_isVisible) {
         const QString frame = WindowPlacement::saved(*m_window);

@@ -49,7 +49,7 @@ Q_SIGNALS:
 private:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void makeWindow();
-    void putAway();
+    void windowWillClose();
     void setVisible(bool isVisible);
 
     Application &m_application;

@@ -46,6 +46,12 @@ TEST_F(RemoteControlTest, RepeatedPressesAndReleasesAreOne)
     remote.perform(u"release"_s);
     EXPECT_EQ(model->state().value, Case::Transcribing);
     ASSERT_TRUE(await([this] { return model->state().value == Case::Idle; }));
+
+    fake.microphone.refusesToRecord = true;
+    remote.perform(u"press"_s); // refused, so nothing is held
+    fake.microphone.refusesToRecord = false;
+    remote.perform(u"press"_s);
+    EXPECT_EQ(model->state().value, Case::Recording);
 }
 
 TEST_F(RemoteControlTest, ToggleIsATapInEveryTriggerMode)

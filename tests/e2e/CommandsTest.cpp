@@ -109,6 +109,10 @@ TEST(CommandsTest, TheRunningProgramDoesWhatTheyName)
     EXPECT_TRUE(await([&] { return listener.states.size() > 5 && listener.states.last() == u"idle"; }));
     EXPECT_EQ(listener.states.first(5), sequence) << listener.states.join(u' ').toStdString();
 
+    QProcessEnvironment elsewhere = desktop.environment();
+    elsewhere.remove(u"DISPLAY"_s); // the instance that runs is reopened from where none could be started
+    EXPECT_EQ(run(QStringLiteral(QUILLO_PROGRAM), {}, elsewhere), QByteArray());
+    EXPECT_EQ(desktop.command({u"edit-groups"_s}), done);
     EXPECT_EQ(desktop.command({u"settings"_s}), done);
     EXPECT_TRUE(await([&] { return !desktop.windowNamed(u"Quillo Settings"_s).isEmpty(); }));
     EXPECT_TRUE(

@@ -5,7 +5,6 @@
 #include "app/commands/Output.h"
 #include "app/remote/RemoteControl.h"
 
-#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
 #include <QJsonDocument>
@@ -26,7 +25,7 @@ std::optional<int> unreachable(const QDBusConnection &bus)
         return Output::fail(u"There is no session bus (DBUS_SESSION_BUS_ADDRESS), so Quillo can't be reached."_s,
                             ExitStatus::notRunning);
     }
-    if (!bus.interface()->isServiceRegistered(RemoteControl::service()).value()) {
+    if (!RemoteControl::isRunning(bus)) {
         return Output::fail(u"Quillo isn't running. Start it with: quillo"_s, ExitStatus::notRunning);
     }
     return std::nullopt;

@@ -23,6 +23,11 @@ RemoteControl::~RemoteControl()
     }
 }
 
+bool RemoteControl::isRunning(const QDBusConnection &bus)
+{
+    return bus.isConnected() && bus.interface()->isServiceRegistered(service()).value();
+}
+
 RemoteControl::Claim RemoteControl::claim()
 {
     if (!m_bus.isConnected()) {
@@ -78,7 +83,7 @@ bool RemoteControl::perform(const QString &action)
     return true;
 }
 
-void RemoteControl::activate()
+void RemoteControl::applicationShouldHandleReopen()
 {
     if (m_model != nullptr) {
         m_model->historyWindow().show(false);
@@ -90,6 +95,7 @@ void RemoteControl::press()
     if (!m_isHeld) { // a second press is the key's auto-repeat
         m_isHeld = true;
         m_model->handle(ShortcutEvent::Pressed);
+        m_isHeld = m_model->state().value != AppModel::State::Case::Idle; // a refused press holds nothing
     }
 }
 

@@ -26,6 +26,9 @@ public:
     explicit RemoteControl(QDBusConnection bus);
     ~RemoteControl() override;
 
+    /// Whether a process answers for the program on `bus`.
+    static bool isRunning(const QDBusConnection &bus);
+
     enum class Claim { IsFirst, IsSecond, NoBus };
     /// Makes this process the one that answers for the program, unless another does already. Calls that arrive from now
     /// on are served when the event loop runs.
@@ -37,8 +40,8 @@ public:
 
     /// Performs an action by its name; false for a name that is none.
     bool perform(const QString &action);
-    /// Brings the program to the user's attention: what starting it a second time does.
-    void activate();
+    /// What starting the program a second time does: the history window comes to the front.
+    void applicationShouldHandleReopen();
     QVariantMap status() const;
 
     /// Answers the caller on the bus, if there is one, that there is no such action.

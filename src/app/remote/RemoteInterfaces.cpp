@@ -9,12 +9,12 @@ ApplicationInterface::ApplicationInterface(RemoteControl &control) : QDBusAbstra
 
 void ApplicationInterface::Activate(const QVariantMap & /*platformData*/)
 {
-    m_control.activate();
+    m_control.applicationShouldHandleReopen();
 }
 
 void ApplicationInterface::Open(const QStringList & /*uris*/, const QVariantMap & /*platformData*/)
 {
-    m_control.activate(); // there are no documents
+    m_control.applicationShouldHandleReopen(); // there are no documents
 }
 
 void ApplicationInterface::ActivateAction(const QString &action, const QVariantList & /*parameters*/,
