@@ -14,6 +14,7 @@
 #include "platform/tray/TrayExamination.h"
 #include "platform/x11/TerminalClasses.h"
 #include "platform/x11/X11Backend.h"
+#include "platform/x11/X11Examination.h"
 #include "service/HttpTransport.h"
 #include "shortcuts/CarbonHotKey.h"
 
@@ -80,13 +81,17 @@ QList<Finding> displayFindings(Services &services)
     if (const auto refusal = DisplayChoice::refusal()) {
         return {{u"Display server"_s, Level::Problem, *refusal, u"log in to an X11 session"_s}};
     }
+    const Shortcut dictation = StoredShortcut::read(services.preferences, Use::Dictation);
+    const bool isSingleKey = dictation.asModifier() != nullptr;
+    QList<Finding> findings =
+        examineX11(isSingleKey ? DictationShortcutKind::SingleKey : DictationShortcutKind::Combination);
     QString whyNot;
     const auto x11 = X11Backend::create(services.clock, TerminalClasses::defaults(), &whyNot);
-    if (!x11) {
-        return {{u"Display server"_s, Level::Problem, whyNot, u"log in to an X11 session"_s}};
+    if (x11) {
+        findings.append(hotKeyFindings(*x11, services.preferences));
+    } else {
+        findings.append({u"Hot keys"_s, Level::Problem, u"not tried: "_s + whyNot});
     }
-    QList<Finding> findings = x11->examine();
-    findings.append(hotKeyFindings(*x11, services.preferences));
     return findings;
 }
 

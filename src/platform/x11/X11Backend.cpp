@@ -5,7 +5,6 @@
 #include "platform/x11/X11Accessibility.h"
 #include "platform/x11/X11Application.h"
 #include "platform/x11/X11Connection.h"
-#include "platform/x11/X11Examination.h"
 #include "platform/x11/X11HotKeys.h"
 #include "platform/x11/X11KeyEvents.h"
 #include "platform/x11/X11KeyMonitors.h"
@@ -113,11 +112,6 @@ Accessibility &X11Backend::accessibility()
 Application &X11Backend::application()
 {
     return m_parts->application;
-}
-
-QList<Finding> X11Backend::examine()
-{
-    return examineX11(*m_parts->connection);
 }
 
 void X11Backend::setClosedHandler(std::function<void()> handler)

@@ -4,7 +4,6 @@
 #include "platform/Accessibility.h"
 #include "platform/Application.h"
 #include "platform/Clock.h"
-#include "platform/Finding.h"
 #include "platform/HotKeys.h"
 #include "platform/KeyEvents.h"
 #include "platform/KeyMonitors.h"
@@ -40,9 +39,6 @@ public:
     Screens &screens();
     Accessibility &accessibility();
     Application &application();
-
-    /// What the X server and the programs on it offer for dictation.
-    QList<Finding> examine();
 
     /// Called once, from the event loop, when the X server is gone.
     void setClosedHandler(std::function<void()> handler);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/x11/X11Extensions.h"
 #include "platform/x11/Xcb.h"
 
 #include <QByteArray>
@@ -37,21 +38,12 @@ class X11Connection final : public QObject {
     Q_OBJECT
 
 public:
-    /// What the server has beyond the core protocol.
-    struct Extensions {
-        bool xkb = false;
-        bool xfixes = false;
-        bool test = false;
-        /// XInput 2.2, the first whose raw key events arrive while another client grabs the keyboard.
-        bool rawKeys = false;
-    };
-
     /// Connects to a display, by default that of $DISPLAY; null when there is none.
     static std::unique_ptr<X11Connection> create(const QByteArray &displayName = {});
     ~X11Connection() override;
 
     xcb_connection_t *xcb() const { return m_xcb.get(); }
-    const Extensions &extensions() const { return m_extensions; }
+    const X11Extensions &extensions() const { return m_extensions; }
     xcb_window_t root() const { return m_root; }
     int screenNumber() const { return m_screenNumber; }
 
@@ -95,7 +87,7 @@ private:
     int m_screenNumber;
     xcb_window_t m_root;
     xcb_window_t m_window;
-    Extensions m_extensions;
+    X11Extensions m_extensions;
     QHash<QByteArray, xcb_atom_t> m_atoms;
     std::deque<Event> m_arrived;
     std::vector<X11Listener *> m_listeners; // null where one was removed during a dispatch

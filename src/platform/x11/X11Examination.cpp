@@ -36,28 +36,44 @@ QString serverName(const X11Connection &connection)
 
 } // namespace
 
-QList<Finding> examineX11(X11Connection &connection)
+QList<Finding> examineX11Extensions(const X11Extensions &has, DictationShortcutKind dictation)
 {
-    const auto &has = connection.extensions();
-    QList<Finding> findings{{u"Display server"_s, Level::Good, u"X11 (%1), backend x11"_s.arg(serverName(connection))}};
-    findings.append(has.rawKeys
-                        ? Finding{u"Raw keys"_s, Level::Good, u"XInput 2.2"_s}
-                        : Finding{u"Raw keys"_s, Level::Note, u"no XInput 2.2: a single key can't be a shortcut"_s,
-                                  u"use a key combination"_s});
-    findings.append(has.test ? Finding{u"Key posting"_s, Level::Good, u"XTEST"_s}
-                             : Finding{u"Key posting"_s, Level::Note, u"no XTEST: text is copied, not pasted"_s,
-                                       u"paste with Ctrl+V, or enable the X server's XTEST extension"_s});
-    findings.append(has.xfixes ? Finding{u"Clipboard"_s, Level::Good, u"XFIXES"_s}
-                               : Finding{u"Clipboard"_s, Level::Problem, u"no XFIXES"_s,
-                                         u"enable the X server's XFIXES extension"_s});
-    findings.append(hasWindowManager(connection)
+    const Finding noRawKeys =
+        dictation == DictationShortcutKind::SingleKey
+            ? Finding{u"Raw keys"_s, Level::Problem, u"no XInput 2.2: the dictation shortcut is a single key"_s,
+                      u"choose a key combination in the settings"_s}
+            : Finding{u"Raw keys"_s, Level::Note, u"no XInput 2.2: a single key can't be a shortcut"_s,
+                      u"use a key combination"_s};
+    return {has.xkb
+                ? Finding{u"Keyboard"_s, Level::Good, u"XKB"_s}
+                : Finding{u"Keyboard"_s, Level::Problem, u"no XKB"_s, u"enable the X server's XKEYBOARD extension"_s},
+            has.rawKeys ? Finding{u"Raw keys"_s, Level::Good, u"XInput 2.2"_s} : noRawKeys,
+            has.test ? Finding{u"Key posting"_s, Level::Good, u"XTEST"_s}
+                     : Finding{u"Key posting"_s, Level::Note, u"no XTEST: text is copied, not pasted"_s,
+                               u"paste with Ctrl+V, or enable the X server's XTEST extension"_s},
+            has.xfixes
+                ? Finding{u"Clipboard"_s, Level::Good, u"XFIXES"_s}
+                : Finding{u"Clipboard"_s, Level::Problem, u"no XFIXES"_s, u"enable the X server's XFIXES extension"_s}};
+}
+
+QList<Finding> examineX11(DictationShortcutKind dictation)
+{
+    const auto connection = X11Connection::create();
+    if (!connection) {
+        return {{u"Display server"_s, Level::Problem, u"there is no X server at $DISPLAY"_s,
+                 u"log in to an X11 session"_s}};
+    }
+    QList<Finding> findings{
+        {u"Display server"_s, Level::Good, u"X11 (%1), backend x11"_s.arg(serverName(*connection))}};
+    findings.append(examineX11Extensions(connection->extensions(), dictation));
+    findings.append(hasWindowManager(*connection)
                         ? Finding{u"Window manager"_s, Level::Good, u"there"_s}
                         : Finding{u"Window manager"_s, Level::Note, u"none: windows may not come to the front"_s,
                                   u"start a window manager"_s});
-    findings.append(owner(connection, "_NET_WM_CM_S") != noWindow
+    findings.append(owner(*connection, "_NET_WM_CM_S") != noWindow
                         ? Finding{u"Compositor"_s, Level::Good, u"there"_s}
                         : Finding{u"Compositor"_s, Level::Good, u"none: the status panel has hard edges"_s});
-    if (owner(connection, "_NET_SYSTEM_TRAY_S") != noWindow) {
+    if (owner(*connection, "_NET_SYSTEM_TRAY_S") != noWindow) {
         findings.append({u"XEmbed tray"_s, Level::Good, u"there"_s});
     }
     return findings;

@@ -5,7 +5,14 @@
 
 #include <QList>
 
-class X11Connection;
+struct X11Extensions;
 
-/// What the X server and the programs on it offer for dictation.
-QList<Finding> examineX11(X11Connection &connection);
+/// What the dictation shortcut is: a single key needs more of the X server than a combination.
+enum class DictationShortcutKind { Combination, SingleKey };
+
+/// What the X server of $DISPLAY and the programs on it offer for dictation, on a connection of its own: it also finds
+/// what keeps an X11Backend from being created. Main thread, with an application object.
+QList<Finding> examineX11(DictationShortcutKind dictation);
+
+/// The part of it that the server's extensions decide.
+QList<Finding> examineX11Extensions(const X11Extensions &has, DictationShortcutKind dictation);

@@ -3,6 +3,8 @@
 #include "TestClient.h"
 #include "platform/x11/TerminalClasses.h"
 #include "platform/x11/X11Backend.h"
+#include "platform/x11/X11Examination.h"
+#include "platform/x11/X11Extensions.h"
 #include "support/Await.h"
 
 #include <QClipboard>
@@ -146,6 +148,19 @@ TEST(X11BackendTest, SaysWhyItIsNotUsable)
     display->use();
 }
 
+/// The findings that aren't good, the problems with a mark.
+QStringList lacking(const QList<Finding> &findings)
+{
+    QStringList subjects;
+    for (const Finding &finding : findings) {
+        if (finding.level != Finding::Level::Good) {
+            const bool isProblem = finding.level == Finding::Level::Problem;
+            subjects.append(finding.subject + (isProblem ? QStringLiteral("!") : QString()));
+        }
+    }
+    return subjects;
+}
+
 TEST(X11BackendTest, AServerThatPostsNoKeysIsNotTrustedAndTheExaminationSaysSo)
 {
     const VirtualDisplay server(VirtualDisplay::WindowManager::None,
@@ -154,20 +169,33 @@ TEST(X11BackendTest, AServerThatPostsNoKeysIsNotTrustedAndTheExaminationSaysSo)
     FakeClock clock;
     QString whyNot;
     const auto lesser = X11Backend::create(clock, {}, &whyNot);
+    const QStringList found = lacking(examineX11(DictationShortcutKind::Combination));
     display->use();
     ASSERT_TRUE(lesser) << qPrintable(whyNot);
     EXPECT_FALSE(lesser->accessibility().isTrusted());
-    const auto noted = [](const QList<Finding> &findings) {
-        QStringList subjects;
-        for (const Finding &finding : findings) {
-            if (finding.level != Finding::Level::Good) {
-                subjects.append(finding.subject);
-            }
-        }
-        return subjects;
-    };
-    EXPECT_EQ(noted(lesser->examine()), (QStringList{QStringLiteral("Key posting"), QStringLiteral("Window manager")}));
-    EXPECT_TRUE(noted(X11Backend::create(clock, {}, &whyNot)->examine()).isEmpty());
+    EXPECT_EQ(found, (QStringList{QStringLiteral("Key posting"), QStringLiteral("Window manager")}));
+    EXPECT_EQ(lacking(examineX11(DictationShortcutKind::Combination)), QStringList());
+}
+
+TEST(X11BackendTest, TheExaminationNamesTheExtensionWithoutWhichThereIsNoBackend)
+{
+    const VirtualDisplay server(VirtualDisplay::WindowManager::None,
+                                {QStringLiteral("-extension"), QStringLiteral("XFIXES")});
+    server.use();
+    const QStringList found = lacking(examineX11(DictationShortcutKind::Combination));
+    display->use();
+    EXPECT_EQ(found, (QStringList{QStringLiteral("Clipboard!"), QStringLiteral("Window manager")}));
+}
+
+TEST(X11BackendTest, TheExaminationTellsWhatTheDictationShortcutCannotDoWithout)
+{
+    const X11Extensions none;
+    EXPECT_EQ(lacking(examineX11Extensions(none, DictationShortcutKind::Combination)),
+              (QStringList{QStringLiteral("Keyboard!"), QStringLiteral("Raw keys"), QStringLiteral("Key posting"),
+                           QStringLiteral("Clipboard!")}));
+    const X11Extensions noRawKeys{.xkb = true, .xfixes = true, .test = true, .rawKeys = false};
+    EXPECT_EQ(lacking(examineX11Extensions(noRawKeys, DictationShortcutKind::SingleKey)),
+              QStringList(QStringLiteral("Raw keys!")));
 }
 
 } // namespace
