@@ -103,21 +103,21 @@ void DBusMenu::setItems(const QList<MenuItem> &items)
 
     const bool isSameShape = std::ranges::equal(earlier, m_entries, {}, &Entry::children, &Entry::children);
     if (!isSameShape) {
+        m_offset += static_cast<int>(earlier.size()) - 1;
         Q_EMIT LayoutUpdated(++m_revision, 0);
         return;
     }
     QList<DBusMenuProperties> updated;
     QList<DBusMenuRemovals> removed;
-    for (int id = 0; has(id); ++id) {
-        const auto place = static_cast<size_t>(id);
+    for (size_t place = 0; place < m_entries.size(); ++place) {
         const QVariantMap &before = earlier[place].values;
         const QVariantMap &now = m_entries[place].values;
         if (before == now) {
             continue;
         }
-        updated.append({id, now});
+        updated.append({id(place), now});
         if (const QStringList names = missing(before, now); !names.isEmpty()) {
-            removed.append({id, names});
+            removed.append({id(place), names});
         }
     }
     if (!updated.isEmpty()) {
@@ -125,26 +125,32 @@ void DBusMenu::setItems(const QList<MenuItem> &items)
     }
 }
 
-int DBusMenu::append(const MenuItem &item)
+size_t DBusMenu::append(const MenuItem &item)
 {
     const auto place = m_entries.size();
     m_entries.push_back({item, valuesOf(item), {}});
-    std::vector<int> children;
+    std::vector<size_t> children;
     children.reserve(static_cast<size_t>(item.children.size()));
     for (const MenuItem &child : item.children) {
         children.push_back(append(child));
     }
     m_entries[place].children = std::move(children);
-    return static_cast<int>(place);
+    return place;
 }
 
-DBusMenuLayout DBusMenu::layoutOf(int id, int depth) const
+const DBusMenu::Entry *DBusMenu::find(int id) const
 {
-    const Entry &entry = m_entries[static_cast<size_t>(id)];
+    const int place = id == 0 ? 0 : id - m_offset;
+    const bool isThere = id == 0 || (place > 0 && static_cast<size_t>(place) < m_entries.size());
+    return isThere ? &m_entries[static_cast<size_t>(place)] : nullptr;
+}
+
+DBusMenuLayout DBusMenu::layoutOf(int id, const Entry &entry, int depth) const
+{
     DBusMenuLayout layout{id, entry.values, {}};
     if (depth != 0) { // below zero: all the way down
-        for (const int child : entry.children) {
-            layout.children.append(layoutOf(child, depth - 1));
+        for (const size_t child : entry.children) {
+            layout.children.append(layoutOf(this->id(child), m_entries[child], depth - 1));
         }
     }
     return layout;
@@ -154,16 +160,17 @@ uint DBusMenu::GetLayout(int parentId, int recursionDepth, const QStringList & /
                          DBusMenuLayout &layout) const
 {
     // All properties, whatever was asked for: there are few, and panels pick what they know.
-    layout = has(parentId) ? layoutOf(parentId, recursionDepth) : DBusMenuLayout();
+    const Entry *entry = find(parentId);
+    layout = entry != nullptr ? layoutOf(parentId, *entry, recursionDepth) : DBusMenuLayout();
     return m_revision;
 }
 
 QList<DBusMenuProperties> DBusMenu::GetGroupProperties(const QList<int> &ids, const QStringList &propertyNames) const
 {
     QList<DBusMenuProperties> properties;
-    for (int id = 0; has(id); ++id) {
-        if (ids.isEmpty() || ids.contains(id)) {
-            properties.append({id, only(m_entries[static_cast<size_t>(id)].values, propertyNames)});
+    for (size_t place = 0; place < m_entries.size(); ++place) {
+        if (ids.isEmpty() || ids.contains(id(place))) {
+            properties.append({id(place), only(m_entries[place].values, propertyNames)});
         }
     }
     return properties;
@@ -171,16 +178,18 @@ QList<DBusMenuProperties> DBusMenu::GetGroupProperties(const QList<int> &ids, co
 
 QDBusVariant DBusMenu::GetProperty(int id, const QString &name) const
 {
-    const QVariant value = has(id) ? m_entries[static_cast<size_t>(id)].values.value(name) : QVariant();
+    const Entry *entry = find(id);
+    const QVariant value = entry != nullptr ? entry->values.value(name) : QVariant();
     return QDBusVariant(value.isValid() ? value : QVariant(QString())); // the bus has no empty variant
 }
 
 void DBusMenu::Event(int id, const QString &eventId, const QDBusVariant & /*data*/, uint /*timestamp*/)
 {
-    if (!has(id) || eventId != u"clicked") {
+    const Entry *entry = find(id);
+    if (entry == nullptr || eventId != u"clicked") {
         return;
     }
-    const MenuItem item = m_entries[static_cast<size_t>(id)].item; // the action may replace the menu
+    const MenuItem item = entry->item; // the action may replace the menu
     if (item.isEnabled && item.action) {
         item.action();
     }
@@ -190,7 +199,7 @@ QList<int> DBusMenu::EventGroup(const QList<DBusMenuEvent> &events)
 {
     QList<int> unknown;
     for (const DBusMenuEvent &event : events) {
-        if (has(event.id)) {
+        if (find(event.id) != nullptr) {
             Event(event.id, event.event, QDBusVariant(event.data), event.timestamp);
         } else {
             unknown.append(event.id);

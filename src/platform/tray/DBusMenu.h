@@ -9,8 +9,9 @@
 
 #include <vector>
 
-/// A menu that a panel shows for us, over com.canonical.dbusmenu. Items are numbered from the top, submenus in place;
-/// 0 is the menu itself. Main thread only.
+/// A menu that a panel shows for us, over com.canonical.dbusmenu. Items are numbered from the top, submenus in place,
+/// and 0 is the menu itself. A menu of another shape goes on counting, so that a panel which still shows the former one
+/// can't choose the wrong item. Main thread only.
 class DBusMenu : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
@@ -50,13 +51,16 @@ private:
     struct Entry {
         MenuItem item;
         QVariantMap values;
-        std::vector<int> children;
+        std::vector<size_t> children; // places
     };
 
-    int append(const MenuItem &item);
-    bool has(int id) const { return id >= 0 && id < static_cast<int>(m_entries.size()); }
-    DBusMenuLayout layoutOf(int id, int depth) const;
+    size_t append(const MenuItem &item);
+    int id(size_t place) const { return place == 0 ? 0 : m_offset + static_cast<int>(place); }
+    /// Null when the menu has no such item, or no longer.
+    const Entry *find(int id) const;
+    DBusMenuLayout layoutOf(int id, const Entry &entry, int depth) const;
 
-    std::vector<Entry> m_entries; // by number
+    std::vector<Entry> m_entries; // by place
+    int m_offset = 0;             // from an item's place to its number
     uint m_revision = 1;
 };

@@ -170,7 +170,22 @@ TEST_F(TrayItemTest, AnOpenMenuChangesInPlaceUnlessItsShapeDoes)
     longer[2].children.append({.kind = MenuItem::Kind::Choice, .title = u"three"_s});
     item.setMenu(longer);
     ASSERT_TRUE(await([&] { return panel.takeSignals() == QStringList{u"LayoutUpdated"_s}; }));
-    EXPECT_EQ(panel.menu().children[2].children.size(), 3);
+    const DBusMenuLayout after = panel.menu();
+    EXPECT_EQ(after.children[2].children.size(), 3);
+    // A click on the former menu, from a panel that has not drawn the new one yet, must not meet another item.
+    panel.choose(choices[1].id);
+    panel.choose(before.children[3].id);
+    EXPECT_EQ(chosen, QStringList());
+    panel.choose(after.children[3].id);
+    EXPECT_EQ(chosen, QStringList{u"quit"_s});
+    item.setMenu(menu(u"Listening"_s, false));
+    const DBusMenuLayout shorter = panel.menu();
+    for (const DBusMenuLayout &entry : after.children) {
+        panel.choose(entry.id);
+    }
+    EXPECT_EQ(chosen, QStringList{u"quit"_s});
+    panel.choose(shorter.children[2].children[1].id);
+    EXPECT_EQ(chosen, (QStringList{u"quit"_s, u"two"_s}));
 }
 
 TEST_F(TrayItemTest, TheExaminationSaysWhatThereIs)
