@@ -53,6 +53,14 @@ void apply(const MenuItem &item, QAction &action)
 void fill(QMenu &menu, const QList<MenuItem> &items)
 {
     menu.clear();
+    // It deletes the menu's actions only, and what is left keeps the words of former items. An open submenu may be
+    // the one that was just used: not at once, then.
+    for (QMenu *former : menu.findChildren<QMenu *>(Qt::FindDirectChildrenOnly)) {
+        former->deleteLater();
+    }
+    for (QActionGroup *former : menu.findChildren<QActionGroup *>(Qt::FindDirectChildrenOnly)) {
+        former->deleteLater();
+    }
     auto *const choices = new QActionGroup(&menu);
     for (const MenuItem &item : items) {
         if (item.kind == MenuItem::Kind::Separator) {

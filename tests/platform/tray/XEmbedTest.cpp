@@ -3,9 +3,11 @@
 #include "Panel.h"
 #include "TestClient.h"
 #include "platform/tray/TrayItem.h"
+#include "platform/tray/XEmbedItem.h"
 #include "support/Await.h"
 #include "support/Session.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QImage>
 #include <QMenu>
@@ -121,6 +123,25 @@ TEST_F(XEmbedTest, AClickOpensTheMenu)
     user.tap(KEY_DOWN);
     user.tap(KEY_ENTER);
     EXPECT_TRUE(await([this] { return choices == 10; }));
+}
+
+TEST(XEmbedItemTest, AMenuOfAnotherShapeKeepsNothingOfTheFormer)
+{
+    XEmbedItem item({});
+    item.setItems({{.kind = MenuItem::Kind::Submenu,
+                    .title = u"Recent"_s,
+                    .children = {{.kind = MenuItem::Kind::Button, .title = u"private words"_s}}}});
+    item.setItems({});
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QList<QMenu *> menus;
+    for (QWidget *widget : QApplication::allWidgets()) {
+        if (auto *const menu = qobject_cast<QMenu *>(widget)) {
+            menus.append(menu);
+        }
+    }
+    ASSERT_EQ(menus.size(), 1);
+    EXPECT_TRUE(menus[0]->actions().isEmpty());
+    EXPECT_EQ(menus[0]->findChildren<QActionGroup *>().size(), 1);
 }
 
 int main(int argc, char **argv)
