@@ -7,8 +7,9 @@
 
 #include <optional>
 
-/// A secure per-user store of small secrets, one item per service and account. Operations suspend, never block: the
-/// store may ask the user to unlock it. Called and resumed on the main thread. Failures are results, nothing is thrown.
+/// A secure per-user store of small secrets, one item per service and account. Operations suspend, never block, and
+/// never ask the user to unlock anything: what is locked can neither be read nor changed. Called and resumed on the
+/// main thread. Failures are results, nothing is thrown.
 class SecretStore {
 public:
     virtual ~SecretStore() = default;

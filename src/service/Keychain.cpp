@@ -25,12 +25,12 @@ QCoro::Task<std::optional<QString>> Keychain::read(QString account)
     co_return fromUtf8.hasError() ? std::nullopt : std::optional(text);
 }
 
-QCoro::Task<void> Keychain::write(QString account, QString value)
+QCoro::Task<bool> Keychain::write(QString account, QString value)
 {
     const QString service = serviceName();
     const QByteArray secret = value.toUtf8();
     co_await m_store.remove(service, account);
-    co_await m_store.add(service, account, secret);
+    co_return co_await m_store.add(service, account, secret);
 }
 
 QCoro::Task<void> Keychain::remove(QString account)

@@ -8,7 +8,7 @@
 
 #include <optional>
 
-/// The program's own items in the secret store, by account name. Failures are silent. Main thread only.
+/// The program's own items in the secret store, by account name. Other failures are silent. Main thread only.
 class Keychain {
 public:
     explicit Keychain(SecretStore &store) : m_store(store) {}
@@ -16,8 +16,8 @@ public:
     /// Nothing for an absent item, an unreadable store and bytes that are no UTF-8.
     QCoro::Task<std::optional<QString>> read(QString account);
 
-    /// Replaces the item.
-    QCoro::Task<void> write(QString account, QString value);
+    /// Replaces the item; false when the store refused.
+    QCoro::Task<bool> write(QString account, QString value);
 
     QCoro::Task<void> remove(QString account);
 

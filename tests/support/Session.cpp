@@ -21,9 +21,13 @@ Session::Session(Keyring keyring)
     m_bus = std::make_unique<ChildProcess>(u"dbus-daemon"_s,
                                            QStringList{u"--session"_s, u"--nofork"_s, u"--print-address"_s}, own);
     m_busAddress = m_bus->readLine();
-    if (keyring == Keyring::None) {
-        return;
+    if (keyring == Keyring::Unlocked) {
+        openKeyring();
     }
+}
+
+void Session::openKeyring()
+{
     m_keyring = std::make_unique<ChildProcess>(u"gnome-keyring-daemon"_s,
                                                QStringList{u"--foreground"_s, u"--unlock"_s, u"--components=secrets"_s},
                                                environment());
@@ -43,6 +47,12 @@ void Session::lockKeyring() const
         {u"--session"_s, u"--print-reply"_s, u"--dest=org.freedesktop.secrets"_s, u"/org/freedesktop/secrets"_s,
          u"org.freedesktop.Secret.Service.Lock"_s, u"array:objpath:/org/freedesktop/secrets/collection/login"_s},
         environment());
+}
+
+void Session::unlockKeyring()
+{
+    m_keyring->terminate();
+    openKeyring();
 }
 
 bool Session::ownsName() const

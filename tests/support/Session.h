@@ -24,6 +24,8 @@ public:
 
     /// Locks the keyring, as a log-in without a password leaves it.
     void lockKeyring() const;
+    /// As the next log-in with the password does.
+    void unlockKeyring();
 
     QString busAddress() const { return m_busAddress; }
     QString runtimeFolder() const { return m_folder.filePath(QStringLiteral("run")); }
@@ -32,6 +34,7 @@ public:
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
 private:
+    void openKeyring();
     bool ownsName() const;
     bool holdsSecrets() const;
 

@@ -6,11 +6,39 @@
 #include "support/Printing.h"
 #include "support/Session.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Stands where GNOME Keyring's password dialog would be.
+class Prompter final : private QDBusVirtualObject {
+public:
+    explicit Prompter(const QString &busAddress) : m_bus(QDBusConnection::connectToBus(busAddress, u"prompter"_s))
+    {
+        m_bus.registerVirtualObject(u"/org/gnome/keyring/Prompter"_s, this);
+        m_bus.registerService(u"org.gnome.keyring.SystemPrompter"_s);
+    }
+    ~Prompter() override { QDBusConnection::disconnectFromBus(m_bus.name()); }
+
+    int prompts() const { return m_prompts; }
+
+private:
+    QString introspect(const QString & /*path*/) const override { return {}; }
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &bus) override
+    {
+        ++m_prompts;
+        return bus.send(message.createErrorReply(QDBusError::Failed, u"dismissed"_s));
+    }
+
+    QDBusConnection m_bus;
+    int m_prompts = 0;
+};
 
 class SecretStoreTest : public ::testing::Test {
 protected:
@@ -53,10 +81,10 @@ protected:
 
 TEST_F(SecretStoreTest, WritingReplacesTheOneItemOfTheAccount)
 {
-    finish(keychain.write(u"other"_s, u"untouched"_s));
+    EXPECT_TRUE(resultOf(keychain.write(u"other"_s, u"untouched"_s)));
     EXPECT_EQ(read(keychain, u"credential"_s), std::nullopt);
     for (const QString &value : {u"first-value"_s, u"Grüße 日本"_s}) {
-        finish(keychain.write(u"credential"_s, value));
+        EXPECT_TRUE(resultOf(keychain.write(u"credential"_s, value)));
         EXPECT_EQ(read(keychain, u"credential"_s), value);
         const QByteArray items = found(u"credential"_s);
         EXPECT_EQ(items.count("secret = "), 1);
@@ -82,4 +110,17 @@ TEST_F(SecretStoreTest, BytesComeBackAsTheyAre)
 TEST_F(SecretStoreTest, RemovingWhatIsNotThereIsNoFailure)
 {
     EXPECT_TRUE(resultOf(store.remove(u"app.quillo.Quillo"_s, u"missing"_s)));
+}
+
+TEST_F(SecretStoreTest, ALockedKeyringIsLeftAsItIsAndNobodyIsAskedToUnlockIt)
+{
+    const Prompter prompter(session->busAddress());
+    EXPECT_TRUE(resultOf(keychain.write(u"credential"_s, u"earlier"_s)));
+    session->lockKeyring();
+    EXPECT_EQ(read(keychain, u"credential"_s), std::nullopt);
+    EXPECT_FALSE(resultOf(keychain.write(u"credential"_s, u"later"_s)));
+    finish(keychain.remove(u"credential"_s));
+    EXPECT_EQ(prompter.prompts(), 0);
+    session->unlockKeyring();
+    EXPECT_EQ(read(keychain, u"credential"_s), u"earlier"_s);
 }
