@@ -134,25 +134,45 @@ QCoro::Task<HttpResponse> ApiClient::exchange(Call call)
 
 QCoro::Task<QString> ApiClient::deviceCredential()
 {
-    if (m_credential) {
+    if (m_credential && m_isCredentialKept) {
         co_return QString(*m_credential); // a copy: QCoro moves what it is given, an lvalue that isn't const too
     }
-    if (const std::optional<QString> stored = co_await m_keychain.read(credentialAccount)) {
-        m_credential = stored;
+    if (const std::optional<QString> stored = co_await storedCredential()) {
         co_return *stored;
+    }
+    if (m_credential) {
+        const QString credential = *m_credential;
+        m_isCredentialKept = co_await m_keychain.write(credentialAccount, credential);
+        co_return credential;
     }
     Call call{u"/v1/devices"_s, "POST", QByteArrayLiteral("{\"platform\":\"macos\"}"),
               QByteArrayLiteral("application/json"), false};
     const Registration registration = co_await send<Registration>(std::move(call));
     const QString credential = registration.deviceId + u'.' + registration.secret;
-    co_await m_keychain.write(credentialAccount, credential);
+    if (const std::optional<QString> stored = co_await storedCredential()) {
+        co_return *stored; // unlocked meanwhile
+    }
+    const bool isKept = co_await m_keychain.write(credentialAccount, credential);
     m_preferences.setBoolean(u"freeGrantMissed"_s, registration.freeGrantMissed);
     m_credential = credential;
+    m_isCredentialKept = isKept;
     co_return credential;
+}
+
+QCoro::Task<std::optional<QString>> ApiClient::storedCredential()
+{
+    const std::optional<QString> stored = co_await m_keychain.read(credentialAccount);
+    if (stored) {
+        m_credential = stored;
+        m_isCredentialKept = true;
+    }
+    co_return stored;
 }
 
 QCoro::Task<void> ApiClient::forgetCredential()
 {
     m_credential.reset();
-    co_await m_keychain.remove(credentialAccount);
+    if (m_isCredentialKept) {
+        co_await m_keychain.remove(credentialAccount);
+    }
 }

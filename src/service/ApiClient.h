@@ -19,8 +19,9 @@ class PackagedInfo;
 class Preferences;
 
 /// The transcription backend. Registers this device at the first authenticated request and keeps the credential in the
-/// keychain. Main thread only; every wait suspends. Operations fail with ApiError, an upload without consent with
-/// AIConsentError.
+/// keychain. While that is locked the credential serves from memory, and each request looks again: a device that the
+/// keychain knows takes its place, with the tokens bought for it, and else it is kept there. Main thread only; every
+/// wait suspends. Operations fail with ApiError, an upload without consent with AIConsentError.
 class ApiClient {
 public:
     /// No progress for this long fails a request.
@@ -53,6 +54,7 @@ private:
     template <typename Record> QCoro::Task<Record> send(Call call, bool retried = false);
     QCoro::Task<HttpResponse> exchange(Call call);
     QCoro::Task<QString> deviceCredential();
+    QCoro::Task<std::optional<QString>> storedCredential();
     QCoro::Task<void> forgetCredential();
 
     Preferences &m_preferences;
@@ -61,4 +63,5 @@ private:
     HttpTransport m_transport;
     std::optional<QUrl> m_baseUrl;
     std::optional<QString> m_credential;
+    bool m_isCredentialKept = false; // in the keychain too
 };

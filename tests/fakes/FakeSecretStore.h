@@ -6,13 +6,13 @@
 #include <QMap>
 #include <QPair>
 
-/// Secrets in memory, or none at all.
+/// Secrets in memory; out of reach while the store is absent or locked.
 class FakeSecretStore : public SecretStore {
 public:
     QCoro::Task<std::optional<QByteArray>> read(QString service, QString account) override
     {
         const auto found = items.constFind({service, account});
-        co_return found == items.constEnd() ? std::nullopt : std::optional(*found);
+        co_return !isAvailable || found == items.constEnd() ? std::nullopt : std::optional(*found);
     }
 
     QCoro::Task<bool> add(QString service, QString account, QByteArray secret) override
@@ -25,7 +25,9 @@ public:
 
     QCoro::Task<bool> remove(QString service, QString account) override
     {
-        items.remove({service, account});
+        if (isAvailable) {
+            items.remove({service, account});
+        }
         co_return isAvailable;
     }
 

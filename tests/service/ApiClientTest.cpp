@@ -269,6 +269,41 @@ TEST_F(ApiClientTest, WithoutASecretStoreTheCredentialServesFromMemory)
     EXPECT_EQ(fake.secrets.items.value(credentialItem), "dev.s3cret");
 }
 
+TEST_F(ApiClientTest, ALockedStoreLosesNothing)
+{
+    const auto device = [this] { return server.requests().last().headers.value("authorization"); };
+    fake.secrets.isAvailable = false;
+    auto fresh = client();
+    resultOf(fresh.balance());
+    fake.secrets.isAvailable = true;
+    resultOf(fresh.balance());
+    EXPECT_EQ(fake.secrets.items.value(credentialItem), "dev.s3cret") << "kept as soon as it can be";
+
+    fake.secrets.items.insert(credentialItem, "earlier.device");
+    fake.secrets.isAvailable = false;
+    auto known = client();
+    resultOf(known.balance());
+    EXPECT_EQ(device(), "Bearer dev.s3cret");
+    fake.secrets.isAvailable = true;
+    resultOf(known.balance());
+    EXPECT_EQ(device(), "Bearer earlier.device");
+
+    // Unlocked while the device registers, or while a request of it is refused.
+    for (const QByteArray path : {"/v1/devices", "/v1/balance"}) {
+        fake.secrets.isAvailable = false;
+        server.onRequest = [&](const HttpServer::Request &request) {
+            fake.secrets.isAvailable = fake.secrets.isAvailable || request.path == path;
+            const bool isRefused = request.headers.value("authorization") == "Bearer dev.s3cret";
+            return request.path == "/v1/devices" ? HttpServer::Response{201, registration}
+                                                 : HttpServer::Response{isRefused ? 401 : 200, R"({"balance":7})"};
+        };
+        auto api = client();
+        EXPECT_EQ(resultOf(api.balance()).balance, 7) << path.constData();
+        EXPECT_EQ(device(), "Bearer earlier.device") << path.constData();
+        EXPECT_EQ(fake.secrets.items.value(credentialItem), "earlier.device") << path.constData();
+    }
+}
+
 TEST_F(ApiClientTest, ARequestWithoutProgressFails)
 {
     resultOf(client().balance()); // registered, so that the time-out is the one of the request below
