@@ -113,16 +113,21 @@ Backend::Backend(const Settings &settings, std::unique_ptr<Engine> engine)
     m_api.countConnections([this] { return m_server.connections(); });
 }
 
-void Backend::run()
+bool Backend::run()
 {
     m_signals.async_wait([this](const boost::system::error_code &error, int) {
         if (!error) {
             m_signals.clear();
             sd_notify(0, "STOPPING=1");
-            m_server.stop();
+            m_transcriber.stop();
+            m_server.stop([this] {
+                m_gaveUp = true;
+                m_io.stop();
+            });
         }
     });
     m_server.start();
     sd_notify(0, "READY=1");
     m_io.run();
+    return !m_gaveUp;
 }

@@ -19,8 +19,9 @@ public:
     std::string url() const { return m_url; }
 
     /// Tells systemd, if it asked to be told, that the server is ready, and serves until SIGTERM or SIGINT, and then
-    /// until the running requests are answered. A second signal kills.
-    void run();
+    /// until the running requests are answered. A second signal kills. False when some ran too long and were refused:
+    /// the engine still works on them, and the destructor would wait for it.
+    bool run();
 
 private:
     net::io_context m_io{1};
@@ -31,4 +32,5 @@ private:
     std::string m_url;
     Api m_api;
     Server m_server;
+    bool m_gaveUp = false;
 };

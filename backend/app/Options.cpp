@@ -70,6 +70,8 @@ QList<QCommandLineOption> Options::all()
         option("public-url", "Address of this server in checkout links (where it listens).", "url"),
         option("trusted-proxies", "IP addresses whose X-Forwarded-For header tells the client's.", "list"),
         option("registrations-per-hour", "New devices per client address; 0: no limit (60).", "n", "60"),
+        option("stop-timeout", "Seconds for running transcriptions when the server stops; then they are refused (120).",
+               "n", "120"),
         option("access-log", "json writes a line per request on the standard error stream (none).", "format", "none"),
         option("database", "SQLite file or postgresql:// URI ($XDG_DATA_HOME/quillo-backend/backend.db).", "database"),
         option("database-file", "File that holds that URI, if it has a password.", "file"),

@@ -155,6 +155,7 @@ Settings settingsOf(const Options &options)
     for (const auto &proxy : options.list(u"trusted-proxies"_s)) {
         settings.server.trustedProxies.push_back(addressOf(options, u"trusted-proxies"_s, proxy));
     }
+    settings.server.drain = std::chrono::seconds(options.number(u"stop-timeout"_s, 0, 3600));
     settings.accessLog = choice<bool>(options, u"access-log"_s, {{u"none"_s, false}, {u"json"_s, true}});
     settings.engine = choice<Settings::EngineKind>(
         options, u"engine"_s,

@@ -24,6 +24,6 @@ int main(int argc, char **argv)
     parser.process(application);
     Backend backend(settingsOf(Options(parser)), std::make_unique<InstantEngine>());
     std::cout << "listening on " << backend.url() << std::endl;
-    backend.run();
+    backend.run(); // the engine never takes long
     return 0;
 }

@@ -18,6 +18,7 @@ public:
     Api(const ApiOptions &options, StoreThreads &store, Transcriber &transcriber, const WallClock &clock);
 
     size_t bodyLimit(std::string_view path) const override { return m_router.bodyLimit(path); }
+    net::awaitable<std::optional<Reply>> admit(const Request &head) override { return m_router.admit(head); }
     net::awaitable<Reply> handle(const Request &request) override { return m_router.handle(request); }
 
     Metrics &metrics() { return m_metrics; }

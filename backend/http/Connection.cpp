@@ -3,6 +3,7 @@
 
 #include "support/Log.h"
 
+#include <QScopeGuard>
 #include <boost/asio/redirect_error.hpp>
 #include <boost/asio/write.hpp>
 #include <boost/beast/http/error.hpp>
@@ -10,7 +11,10 @@
 #include <boost/beast/http/write.hpp>
 #include <sys/socket.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <exception>
+#include <sstream>
 
 namespace beast = boost::beast;
 namespace http = boost::beast::http;
@@ -18,11 +22,13 @@ namespace http = boost::beast::http;
 namespace {
 
 using Clock = std::chrono::steady_clock;
+using Message = http::response<http::string_body>;
 
 constexpr size_t readAhead = 128UL * 1024;
 constexpr size_t mostDiscarded = 64UL * 1024 * 1024;
 // For a request that a client is sending while the server stops.
 constexpr std::chrono::seconds lastChance{1};
+constexpr unsigned standardVersion = 11; // HTTP/1.1
 
 /// The client's own fault, in contrast to a connection that ended.
 std::optional<Reply> replyTo(const beast::error_code &error)
@@ -40,11 +46,33 @@ std::optional<Reply> replyTo(const beast::error_code &error)
     return Refusal::badRequest().reply();
 }
 
+Message messageOf(Reply &reply, unsigned version, bool keepAlive)
+{
+    Message message;
+    message.version(version);
+    message.result(reply.status);
+    message.keep_alive(keepAlive);
+    message.set(http::field::content_type, reply.contentType);
+    message.set(http::field::cache_control, "no-store");
+    message.set("X-Content-Type-Options", "nosniff");
+    for (const auto &[name, value] : reply.headers) {
+        message.set(name, value);
+    }
+    message.body() = std::move(reply.body);
+    message.prepare_payload();
+    return message;
+}
+
 } // namespace
 
 Connection::Connection(net::ip::tcp::socket socket, RequestHandler &handler, const ServerOptions &options,
-                       const Server::AccessLog &log)
-    : m_stream(std::move(socket)), m_buffer(readAhead), m_handler(handler), m_options(options), m_log(log)
+                       BodyMemory &bodies, const Server::AccessLog &log)
+    : m_stream(std::move(socket)),
+      m_buffer(readAhead),
+      m_handler(handler),
+      m_options(options),
+      m_bodies(bodies),
+      m_log(log)
 {
     beast::error_code error;
     m_peer = unmapped(m_stream.socket().remote_endpoint(error).address());
@@ -53,13 +81,32 @@ Connection::Connection(net::ip::tcp::socket socket, RequestHandler &handler, con
 
 void Connection::finish()
 {
-    m_last = true;
+    m_last = m_stopping = true;
     beast::error_code error;
-    if (m_idle && m_fresh) {
+    if (m_receiving) {
+        m_stream.cancel();
+    } else if (m_idle && m_fresh) {
         m_stream.expires_after(lastChance);
     } else if (m_idle && m_stream.socket().available(error) == 0) {
         m_stream.cancel();
     }
+}
+
+void Connection::abandon()
+{
+    if (!m_handling) {
+        m_stream.cancel();
+        return;
+    }
+    m_abandoned = true;
+    auto reply = Refusal::serverBusy().reply();
+    std::ostringstream bytes;
+    bytes << messageOf(reply, standardVersion, false);
+    // The socket's buffer has room for it: nothing else is written while a handler runs.
+    beast::error_code error;
+    m_stream.socket().non_blocking(true, error);
+    m_stream.socket().write_some(net::buffer(bytes.str()), error);
+    m_stream.socket().shutdown(net::ip::tcp::socket::shutdown_send, error);
 }
 
 net::awaitable<void> Connection::run()
@@ -81,35 +128,26 @@ net::awaitable<void> Connection::serveOne()
     co_await waitForRequest();
     const auto started = Clock::now();
     RequestParser parser;
-    auto refusal = co_await read(parser);
     AccessRecord record;
-    const auto address = clientAddress(parser, m_peer, m_options.trustedProxies);
-    record.address = address.to_string();
-    unsigned version = 11;
-    Reply reply;
-    if (refusal) {
-        m_last = true;
-        reply = std::move(*refusal);
-    } else {
-        version = parser.get().version();
-        m_last = m_last || !parser.get().keep_alive();
-        auto request = takeRequest(parser, address);
-        request.connected = [this] { return isConnected(); };
-        record.method = request.method;
-        record.received = request.body.size();
-        m_buffer.shrink_to_fit();
-        m_stream.expires_never();
-        reply = co_await m_handler.handle(request);
+    std::exception_ptr tooSlow;
+    try {
+        co_await serve(parser, record);
+    } catch (const beast::system_error &error) {
+        if (error.code() != beast::error_code(beast::error::timeout)) {
+            throw;
+        }
+        record.status = static_cast<unsigned>(http::status::request_timeout);
+        tooSlow = std::current_exception();
     }
-    record.sent = reply.body.size();
-    record.delivered = co_await write(reply, version);
-    if (reply.sent) {
-        co_await reply.sent(record.delivered);
+    if (parser.is_header_done()) {
+        record.method = std::string(parser.get().method_string());
     }
-    record.route = reply.route;
-    record.status = reply.status;
+    record.address = clientAddress(parser, m_peer, m_options.trustedProxies).to_string();
     record.duration = std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - started);
     m_log(record);
+    if (tooSlow) {
+        std::rethrow_exception(tooSlow);
+    }
 }
 
 net::awaitable<void> Connection::waitForRequest()
@@ -124,7 +162,46 @@ net::awaitable<void> Connection::waitForRequest()
     m_fresh = false;
 }
 
-net::awaitable<std::optional<Reply>> Connection::read(RequestParser &parser)
+net::awaitable<void> Connection::serve(RequestParser &parser, AccessRecord &record)
+{
+    BodyMemory::Share memory(m_bodies);
+    auto refusal = co_await read(parser, memory);
+    m_last = m_last || refusal || !parser.get().keep_alive();
+    record.received = parser.get().body().size();
+    Reply reply;
+    if (refusal) {
+        reply = std::move(*refusal);
+        parser.get().body() = {};
+    } else {
+        auto request = takeRequest(parser, clientAddress(parser, m_peer, m_options.trustedProxies));
+        request.connected = [this] { return isConnected(); };
+        m_buffer.shrink_to_fit();
+        m_stream.expires_never();
+        m_handling = true;
+        reply = co_await m_handler.handle(request);
+        m_handling = false;
+    }
+    memory.release();
+    record.route = reply.route;
+    record.status = reply.status;
+    record.sent = reply.body.size();
+    record.delivered = !m_abandoned && co_await write(reply, parser);
+    co_await tellSent(reply, record.delivered);
+    if (refusal) {
+        co_await discardBody(parser);
+    }
+}
+
+net::awaitable<std::optional<Reply>> Connection::read(RequestParser &parser, BodyMemory::Share &memory)
+{
+    auto refusal = co_await readHeader(parser);
+    if (!refusal && !parser.is_done()) {
+        refusal = co_await readBody(parser, memory);
+    }
+    co_return refusal;
+}
+
+net::awaitable<std::optional<Reply>> Connection::readHeader(RequestParser &parser)
 {
     limitHeader(parser);
     m_stream.expires_after(m_options.header);
@@ -133,18 +210,43 @@ net::awaitable<std::optional<Reply>> Connection::read(RequestParser &parser)
     if (auto refusal = replyTo(error)) {
         co_return refusal;
     }
-    const auto limit = m_handler.bodyLimit(pathOf(parser.get().target()));
-    if (parser.content_length() && *parser.content_length() > limit) {
+    if (!isFramedClearly(parser)) {
+        co_return Refusal::badRequest().reply();
+    }
+    co_return std::nullopt;
+}
+
+net::awaitable<std::optional<Reply>> Connection::readBody(RequestParser &parser, BodyMemory::Share &memory)
+{
+    const auto head = headOf(parser, clientAddress(parser, m_peer, m_options.trustedProxies));
+    const auto limit = m_handler.bodyLimit(head.path);
+    const auto announced = parser.content_length().value_or(0);
+    if (announced > limit) {
         co_return Refusal::tooLarge().reply();
+    }
+    if (auto refusal = co_await m_handler.admit(head)) {
+        co_return refusal;
+    }
+    if (m_stopping || !m_bodies.has(announced)) {
+        co_return Refusal::serverBusy().reply();
     }
     parser.body_limit(limit);
     co_await allowBody(parser);
     const auto deadline = Clock::now() + m_options.body;
+    beast::error_code error;
+    m_receiving = true;
+    const auto received = qScopeGuard([this] { m_receiving = false; });
     while (!parser.is_done()) {
         m_stream.expires_at(std::min(Clock::now() + m_options.stall, deadline));
         co_await http::async_read_some(m_stream, m_buffer, parser, net::redirect_error(net::use_awaitable, error));
+        if (m_stopping && !parser.is_done()) {
+            co_return Refusal::serverBusy().reply();
+        }
         if (auto refusal = replyTo(error)) {
             co_return refusal;
+        }
+        if (!memory.growTo(parser.get().body().size())) {
+            co_return Refusal::serverBusy().reply();
         }
     }
     co_return std::nullopt;
@@ -159,25 +261,40 @@ net::awaitable<void> Connection::allowBody(const RequestParser &parser)
     }
 }
 
-net::awaitable<bool> Connection::write(Reply &reply, unsigned version)
+net::awaitable<bool> Connection::write(Reply &reply, const RequestParser &parser)
 {
-    http::response<http::string_body> response;
-    response.version(version);
-    response.result(reply.status);
-    response.keep_alive(!m_last);
-    response.set(http::field::content_type, reply.contentType);
-    response.set(http::field::cache_control, "no-store");
-    response.set("X-Content-Type-Options", "nosniff");
-    for (const auto &[name, value] : reply.headers) {
-        response.set(name, value);
+    auto message = messageOf(reply, parser.is_header_done() ? parser.get().version() : standardVersion, !m_last);
+    if (parser.get().method() == http::verb::head) {
+        message.body().clear(); // its length stays in the header
     }
-    response.body() = std::move(reply.body);
-    response.prepare_payload();
     beast::error_code error;
     m_stream.expires_after(m_options.stall);
-    co_await http::async_write(m_stream, response, net::redirect_error(net::use_awaitable, error));
+    co_await http::async_write(m_stream, message, net::redirect_error(net::use_awaitable, error));
     m_last = m_last || error;
     co_return !error;
+}
+
+net::awaitable<void> Connection::tellSent(Reply &reply, bool delivered)
+{
+    try {
+        if (reply.sent) {
+            co_await reply.sent(delivered);
+        }
+    } catch (const std::exception &error) {
+        logLine(error.what());
+    }
+}
+
+/// What follows a refusal. Some clients look for the reply only when they have sent all, and take a connection that
+/// closes before for a failure.
+net::awaitable<void> Connection::discardBody(const RequestParser &parser)
+{
+    if (parser.is_header_done()) {
+        const auto length = parser.content_length_remaining().value_or(0);
+        const auto left = length - std::min<uint64_t>(length, m_buffer.size());
+        m_buffer.clear();
+        co_await discard(std::min<uint64_t>(left, mostDiscarded), m_options.body);
+    }
 }
 
 /// Reads on until the client closes: closing with unread data would reset the connection and lose the reply.
@@ -185,11 +302,19 @@ net::awaitable<void> Connection::close()
 {
     beast::error_code error;
     m_stream.socket().shutdown(net::ip::tcp::socket::shutdown_send, error);
-    m_stream.expires_after(m_options.linger);
     m_buffer.clear();
-    for (size_t discarded = 0; !error && discarded < mostDiscarded;) {
-        const auto scratch = m_buffer.prepare(65'536);
-        discarded += co_await m_stream.async_read_some(scratch, net::redirect_error(net::use_awaitable, error));
+    co_await discard(mostDiscarded, m_options.linger);
+}
+
+net::awaitable<void> Connection::discard(size_t bytes, std::chrono::milliseconds time)
+{
+    constexpr size_t atOnce = 16'384;
+    const auto deadline = Clock::now() + time;
+    beast::error_code error;
+    while (!error && bytes > 0) {
+        m_stream.expires_at(std::min(Clock::now() + m_options.linger, deadline));
+        const auto scratch = m_buffer.prepare(std::min(bytes, atOnce));
+        bytes -= co_await m_stream.async_read_some(scratch, net::redirect_error(net::use_awaitable, error));
     }
 }
 

@@ -12,23 +12,32 @@
 /// One client's connection: its requests, one after the other. I/O thread only.
 class Connection {
 public:
-    Connection(net::ip::tcp::socket socket, RequestHandler &handler, const ServerOptions &options,
+    Connection(net::ip::tcp::socket socket, RequestHandler &handler, const ServerOptions &options, BodyMemory &bodies,
                const Server::AccessLog &log);
 
     /// Serves requests until the client or finish() ends it, or a limit is broken. Does not throw.
     net::awaitable<void> run();
 
-    /// Ends the connection: at once when no request is on its way, otherwise after its reply. A connection without any
-    /// request so far has a moment to send one.
+    /// Ends the connection: at once when no request is on its way, otherwise after its reply, which is a refusal when
+    /// the body has not been read yet. A connection without any request so far has a moment to send one.
     void finish();
+
+    /// After finish(): waits no longer. A request that is being handled is refused in its handler's place.
+    void abandon();
 
 private:
     net::awaitable<void> serveOne();
     net::awaitable<void> waitForRequest();
-    /// The reply to a request that is malformed or too large, or nothing when it was read whole.
-    net::awaitable<std::optional<Reply>> read(RequestParser &parser);
+    net::awaitable<void> serve(RequestParser &parser, AccessRecord &record);
+    /// The reply to a request that is refused as it comes, or nothing when it was read whole.
+    net::awaitable<std::optional<Reply>> read(RequestParser &parser, BodyMemory::Share &memory);
+    net::awaitable<std::optional<Reply>> readHeader(RequestParser &parser);
+    net::awaitable<std::optional<Reply>> readBody(RequestParser &parser, BodyMemory::Share &memory);
     net::awaitable<void> allowBody(const RequestParser &parser);
-    net::awaitable<bool> write(Reply &reply, unsigned version);
+    net::awaitable<bool> write(Reply &reply, const RequestParser &parser);
+    net::awaitable<void> tellSent(Reply &reply, bool delivered);
+    net::awaitable<void> discardBody(const RequestParser &parser);
+    net::awaitable<void> discard(size_t bytes, std::chrono::milliseconds time);
     net::awaitable<void> close();
     bool isConnected();
 
@@ -37,8 +46,13 @@ private:
     boost::beast::flat_buffer m_buffer;
     RequestHandler &m_handler;
     const ServerOptions &m_options;
+    BodyMemory &m_bodies;
     const Server::AccessLog &m_log;
     bool m_idle = true;
-    bool m_fresh = true; ///< no request has begun
-    bool m_last = false;
+    bool m_fresh = true;      ///< no request has begun
+    bool m_receiving = false; ///< a body
+    bool m_handling = false;
+    bool m_last = false; ///< the connection ends with this request
+    bool m_stopping = false;
+    bool m_abandoned = false;
 };

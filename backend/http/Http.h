@@ -15,7 +15,7 @@
 
 class QJsonObject;
 
-/// One request, read whole. It outlives the coroutine that handles it.
+/// One request, read whole, or its header only. It outlives the coroutine that handles it.
 struct Request {
     std::string method;
     std::string path;         ///< without the query
@@ -74,6 +74,13 @@ public:
         return {503, "engine_unavailable", "Transcription is unavailable right now. Please try again later."};
     }
 
+    /// For any request, before its body is read.
+    static Refusal serverBusy()
+    {
+        return Refusal(503, "server_busy", "The server is busy. Please try again in a moment.")
+            .retryAfter(std::chrono::seconds(5));
+    }
+
     static Refusal engineBusy() { return {503, "engine_busy", "The server is busy. Please try again in a moment."}; }
 
 private:
@@ -92,6 +99,10 @@ public:
 
     /// The most bytes that a body for this path may have.
     virtual size_t bodyLimit(std::string_view path) const = 0;
+
+    /// Asked when a request's header has been read and a body is to come, so that nobody can make the server hold what
+    /// it will refuse: the refusal, or nothing. Never fails.
+    virtual net::awaitable<std::optional<Reply>> admit(const Request &) { co_return std::nullopt; }
 
     /// Never fails: what goes wrong is a reply too.
     virtual net::awaitable<Reply> handle(const Request &request) = 0;

@@ -41,6 +41,11 @@ struct Metrics::Families {
                                       .Help("Tokens taken for delivered transcripts")
                                       .Register(registry)
                                       .Add({});
+    prometheus::Counter &failedCharges = prometheus::BuildCounter()
+                                             .Name("quillo_charge_failures_total")
+                                             .Help("Attempts to take tokens that the database failed")
+                                             .Register(registry)
+                                             .Add({});
     prometheus::Gauge &connections =
         prometheus::BuildGauge().Name("quillo_connections").Help("Open connections").Register(registry).Add({});
     prometheus::Gauge &queue = prometheus::BuildGauge()
@@ -71,6 +76,11 @@ void Metrics::delivered(qint64 seconds, qint64 tokens)
 {
     m_families->audio.Increment(static_cast<double>(seconds));
     m_families->tokens.Increment(static_cast<double>(tokens));
+}
+
+void Metrics::chargeFailed()
+{
+    m_families->failedCharges.Increment();
 }
 
 std::string Metrics::text(size_t connections, int placesTaken)

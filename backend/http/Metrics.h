@@ -18,6 +18,7 @@ public:
     void answered(const AccessRecord &record);
     void engineRan(std::chrono::steady_clock::duration duration, bool succeeded);
     void delivered(qint64 seconds, qint64 tokens);
+    void chargeFailed();
 
     /// In Prometheus' text format, with these as they are now.
     std::string text(size_t connections, int placesTaken);

@@ -34,29 +34,51 @@ net::ip::address unmapped(const net::ip::address &address)
                : address;
 }
 
+bool isFramedClearly(const RequestParser &parser)
+{
+    // The parser refuses a length beside "chunked", and takes a request with any other coding to have no body.
+    const auto [first, last] = parser.get().equal_range(http::field::transfer_encoding);
+    return std::all_of(first, last, [](const auto &line) { return boost::beast::iequals(line.value(), "chunked"); });
+}
+
 net::ip::address clientAddress(const RequestParser &parser, const net::ip::address &peer,
                                std::span<const net::ip::address> trustedProxies)
 {
-    if (std::ranges::find(trustedProxies, peer) == trustedProxies.end()) {
-        return peer;
+    // A proxy may add its entry to the client's own line, or write another below it.
+    std::string entries;
+    const auto [first, last] = parser.get().equal_range("X-Forwarded-For");
+    std::for_each(first, last, [&](const auto &line) { entries += text(line.value()) + ','; });
+    auto address = peer;
+    while (!entries.empty() && std::ranges::find(trustedProxies, address) != trustedProxies.end()) {
+        entries.resize(entries.find_last_not_of(", \t") + 1);
+        const auto start = entries.find_last_of(", \t") + 1;
+        boost::system::error_code error;
+        const auto next = net::ip::make_address(entries.substr(start), error);
+        if (error) {
+            break;
+        }
+        address = unmapped(next);
+        entries.resize(start);
     }
-    // The last entry is the one that the proxy itself wrote.
-    const auto header = text(parser.get()["X-Forwarded-For"]);
-    const auto start = header.find_last_of(", ");
-    boost::system::error_code error;
-    const auto address = net::ip::make_address(header.substr(start == std::string::npos ? 0 : start + 1), error);
-    return error ? peer : unmapped(address);
+    return address;
 }
 
-Request takeRequest(RequestParser &parser, const net::ip::address &address)
+Request headOf(const RequestParser &parser, const net::ip::address &address)
 {
-    auto &message = parser.get();
+    const auto &message = parser.get();
     return {text(message.method_string()),
             pathOf(text(message.target())),
             address,
             text(message[http::field::authorization]),
             text(message[http::field::content_type]),
             text(message["Stripe-Signature"]),
-            std::move(message.body()),
+            {},
             {}};
+}
+
+Request takeRequest(RequestParser &parser, const net::ip::address &address)
+{
+    auto request = headOf(parser, address);
+    request.body = std::move(parser.get().body());
+    return request;
 }

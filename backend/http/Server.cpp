@@ -5,10 +5,14 @@
 
 #include <boost/asio/detached.hpp>
 #include <boost/asio/redirect_error.hpp>
-#include <boost/asio/steady_timer.hpp>
 
 Server::Server(net::ip::tcp::acceptor acceptor, RequestHandler &handler, ServerOptions options, AccessLog log)
-    : m_acceptor(std::move(acceptor)), m_handler(handler), m_options(std::move(options)), m_log(std::move(log))
+    : m_acceptor(std::move(acceptor)),
+      m_handler(handler),
+      m_options(std::move(options)),
+      m_log(std::move(log)),
+      m_bodies(m_options.bodies),
+      m_drained(m_acceptor.get_executor())
 {
 }
 
@@ -17,7 +21,7 @@ void Server::start()
     net::co_spawn(m_acceptor.get_executor(), accept(), net::detached);
 }
 
-void Server::stop()
+void Server::stop(std::function<void()> gaveUp)
 {
     m_stopping = true;
     boost::system::error_code error;
@@ -34,6 +38,22 @@ void Server::stop()
     m_acceptor.close(error);
     for (auto *connection : m_connections) {
         connection->finish();
+    }
+    m_drained.expires_after(m_options.drain);
+    net::co_spawn(m_drained.get_executor(), giveUp(std::move(gaveUp)), net::detached);
+}
+
+net::awaitable<void> Server::giveUp(std::function<void()> gaveUp)
+{
+    boost::system::error_code drained;
+    if (m_open > 0) {
+        co_await m_drained.async_wait(net::redirect_error(net::use_awaitable, drained));
+    }
+    if (m_open > 0) {
+        for (auto *connection : m_connections) {
+            connection->abandon();
+        }
+        gaveUp();
     }
 }
 
@@ -58,16 +78,20 @@ net::awaitable<void> Server::accept()
 
 void Server::spawn(net::ip::tcp::socket socket)
 {
+    ++m_open;
     net::co_spawn(m_acceptor.get_executor(), serve(std::move(socket)), net::detached);
 }
 
 net::awaitable<void> Server::serve(net::ip::tcp::socket socket)
 {
-    Connection connection(std::move(socket), m_handler, m_options, m_log);
+    Connection connection(std::move(socket), m_handler, m_options, m_bodies, m_log);
     const auto place = m_connections.insert(m_connections.end(), &connection);
     if (m_stopping) {
         connection.finish();
     }
     co_await connection.run();
     m_connections.erase(place);
+    if (--m_open == 0 && m_stopping) {
+        m_drained.cancel();
+    }
 }

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "http/BodyMemory.h"
 #include "http/Http.h"
 
 #include <boost/asio/ip/tcp.hpp>
+#include <boost/asio/steady_timer.hpp>
 
 #include <chrono>
 #include <functional>
@@ -18,8 +20,10 @@ struct ServerOptions {
     std::chrono::milliseconds header{15'000}; ///< for the rest of its header
     std::chrono::milliseconds stall{30'000};  ///< of a body or a reply without progress
     std::chrono::milliseconds body{300'000};  ///< for a whole body
-    std::chrono::milliseconds linger{5'000};  ///< for the client to read a reply and close
+    std::chrono::milliseconds linger{5'000};  ///< for the client to read a reply and close, without progress
+    std::chrono::milliseconds drain{120'000}; ///< for the running requests when the server stops; clients wait as long
     size_t connections = 4096;                ///< at a time; further ones wait to be accepted
+    size_t bodies = 512UL * 1024 * 1024;      ///< bytes of all bodies held at a time
     /// Proxies whose X-Forwarded-For header tells the client's address.
     std::vector<net::ip::address> trustedProxies = {};
 };
@@ -29,7 +33,7 @@ struct AccessRecord {
     std::string address;
     std::string method = "-";
     std::string route = "-";
-    unsigned status = 0;
+    unsigned status = 0; ///< 408, which nobody is told, when the client was too slow
     size_t received = 0; ///< bytes of the request's body
     size_t sent = 0;     ///< bytes of the reply's body
     bool delivered = false;
@@ -47,14 +51,16 @@ public:
 
     void start();
 
-    /// Takes what has connected already and nothing more, closes idle connections, and answers the requests that have
-    /// begun. I/O thread.
-    void stop();
+    /// Takes what has connected already and nothing more, closes idle connections, refuses the requests whose body is
+    /// still on its way, and answers the others. Those that run longer than `drain` are refused too, and then
+    /// `gaveUp` is called: their handlers still run, without anybody to tell. I/O thread.
+    void stop(std::function<void()> gaveUp = [] {});
 
     size_t connections() const { return m_connections.size(); }
 
 private:
     net::awaitable<void> accept();
+    net::awaitable<void> giveUp(std::function<void()> gaveUp);
     void spawn(net::ip::tcp::socket socket);
     net::awaitable<void> serve(net::ip::tcp::socket socket);
 
@@ -62,6 +68,9 @@ private:
     RequestHandler &m_handler;
     ServerOptions m_options;
     AccessLog m_log;
+    BodyMemory m_bodies;
+    net::steady_timer m_drained;
     std::list<Connection *> m_connections;
+    size_t m_open = 0; ///< connections with those that are about to be served
     bool m_stopping = false;
 };

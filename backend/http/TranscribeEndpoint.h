@@ -13,6 +13,10 @@ public:
     struct Options {
         qint64 tokensPerSecond = 1; ///< the price of a started second of audio
         size_t largestUpload = 32UL * 1024 * 1024;
+        /// Before the tokens of a delivered transcript are taken a second time, after the database failed; twice as
+        /// long before each further attempt. All of them end long before the hold lapses.
+        std::chrono::milliseconds chargeDelay{250};
+        int chargeAttempts = 8;
     };
 
     /// All must outlive it.
@@ -22,9 +26,11 @@ public:
 
 private:
     net::awaitable<Reply> transcribe(const Request &request);
+    net::awaitable<Device> payingDevice(const Request &request) const;
     net::awaitable<Inspection> inspect(std::string_view file);
-    net::awaitable<QString> textOf(std::string_view file, const Request &request);
-    net::awaitable<void> end(Ledger::Hold hold, bool delivered, qint64 seconds);
+    net::awaitable<std::optional<QString>> textOf(std::string_view file, const Request &request);
+    net::awaitable<void> charge(Ledger::Hold hold, qint64 seconds);
+    net::awaitable<void> release(Ledger::Hold hold);
 
     Options m_options;
     StoreThreads &m_store;

@@ -18,7 +18,8 @@ namespace {
 
 [[noreturn]] void fail(const char *what, const QSqlError &error)
 {
-    throw StoreError(std::string(what) + ": " + error.text().trimmed().toStdString());
+    // PostgreSQL's further lines may show a row.
+    throw StoreError(std::string(what) + ": " + error.text().trimmed().section(u'\n', 0, 0).toStdString());
 }
 
 /// SQLite gives its journal files the permissions of the database, so it is enough to create that one privately.

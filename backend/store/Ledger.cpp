@@ -63,19 +63,21 @@ std::optional<qint64> Ledger::deliver(Hold &hold)
     return balance(hold.deviceId);
 }
 
-void Ledger::settle(const Hold &hold)
+qint64 Ledger::settle(const Hold &hold)
 {
     if (hold.id.isEmpty()) {
-        return;
+        return 0;
     }
     Transaction transaction(m_database);
     // Whoever removes the hold may take its tokens, so they are taken once.
-    if (m_database.change(u"DELETE FROM holds WHERE id = ?"_s, {hold.id}) == 1) {
+    const auto isHeld = m_database.change(u"DELETE FROM holds WHERE id = ?"_s, {hold.id}) == 1;
+    if (isHeld) {
         m_database.change(u"UPDATE devices SET balance = balance - ?, held = held - ? WHERE id = ?"_s,
                           {hold.amount, hold.amount, hold.deviceId});
         record(hold.deviceId, -hold.amount, u"transcription"_s, {});
     }
     transaction.commit();
+    return isHeld ? hold.amount : 0;
 }
 
 void Ledger::release(const Hold &hold)

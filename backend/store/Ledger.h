@@ -42,7 +42,8 @@ public:
     /// The balance as it is after this hold, or nothing when the hold has lapsed and the balance does not cover
     /// another.
     std::optional<qint64> deliver(Hold &hold);
-    void settle(const Hold &hold);
+    /// The tokens that were taken: none the second time, when the hold has lapsed, or when it is empty.
+    qint64 settle(const Hold &hold);
     void release(const Hold &hold);
 
     /// Adds to the balance inside the caller's transaction. `tokens` may be negative. False, without any effect, when

@@ -140,6 +140,65 @@ TEST_P(ApiTest, RefusesEveryWrongCredentialAlike)
     }
 }
 
+TEST_P(ApiTest, RefusesAnUploadBeforeItsBodyIsSent)
+{
+    start({.freeTokens = 0});
+    const auto head = [](const std::string &authorization) {
+        return "POST /v1/transcribe HTTP/1.1\r\nHost: test\r\nContent-Length: 10000000\r\n" + authorization + "\r\n";
+    };
+    EXPECT_EQ(connect().sendRaw(head({})).status, 401);
+    EXPECT_EQ(connect().sendRaw(head("Expect: 100-continue\r\n")).status, 401);
+    EXPECT_EQ(connect().sendRaw(head(registered())).status, 402);
+    // Also who listens only when all is sent gets the reply.
+    EXPECT_EQ(connect().sendRaw(head({}) + std::string(10'000'000, 'x')).status, 401);
+}
+
+TEST_P(ApiTest, HoldsNoMoreBodiesThanItHasMemoryFor)
+{
+    start({.server = {.bodies = multipart(tone()).size() + 1000}});
+    const auto device = registered();
+    std::latch entered(2);
+    engine->together = &entered;
+    auto first = connect();
+    first.write(upload(device, tone()));
+    awaitEngine();
+    const auto refused = transcribe(device, tone());
+    EXPECT_EQ(refused.error(), "server_busy");
+    EXPECT_EQ(refused.status, 503);
+    EXPECT_GT(std::stoi(refused.retryAfter), 0);
+    const auto chunk = "POST /v1/transcribe HTTP/1.1\r\nHost: test\r\nTransfer-Encoding: chunked\r\n" + device +
+                       "\r\n500\r\n" + std::string(0x500, 'x');
+    EXPECT_EQ(connect().sendRaw(chunk).error(), "server_busy");
+    entered.arrive_and_wait();
+    EXPECT_EQ(first.receive().status, 200);
+    engine->together = nullptr;
+    EXPECT_EQ(transcribe(device, tone()).status, 200);
+}
+
+TEST_P(ApiTest, TakesTheTokensOfADeliveredTranscriptAsSoonAsTheDatabaseLetsIt)
+{
+    start({.freeTokens = 10, .api = {.transcription = {.chargeDelay = 1ms, .chargeAttempts = 14}}});
+    const auto device = registered();
+    std::latch entered(2);
+    engine->together = &entered;
+    auto client = connect();
+    client.write(upload(device, tone()));
+    awaitEngine();
+    Store other(database.location(), {}, clock);
+    other.database.change(u"UPDATE devices SET balance = 1"_s); // which it lets no one fall below zero
+    entered.arrive_and_wait();
+    EXPECT_EQ(client.receive().status, 200);
+    while (connect().send("GET", "/metrics").body.find("\nquillo_charge_failures_total 0\n") != std::string::npos) {
+        std::this_thread::yield();
+    }
+    other.database.change(u"UPDATE devices SET balance = 10"_s);
+    EXPECT_EQ(client.send("GET", "/v1/balance", device).balance(),
+              8); // read when all of the upload has been dealt with
+    EXPECT_THAT(connect().send("GET", "/metrics").body, testing::HasSubstr("\nquillo_tokens_charged_total 2\n"));
+    EXPECT_EQ(other.devices.list({}, 1).first().balance, 8);
+    EXPECT_THAT(other.ledger.unexplained(), testing::IsEmpty());
+}
+
 TEST_P(ApiTest, RefusesARecordingThatTheBalanceDoesNotCoverBeforeTheEngineRuns)
 {
     start({.freeTokens = 1});
@@ -282,7 +341,7 @@ TEST_P(ApiTest, RefusesALargeBodyBeforeItIsSent)
 
 TEST_P(ApiTest, KeepsAConnectionUntilARequestIsMalformed)
 {
-    start({.freeTokens = 10});
+    start({.freeTokens = 10, .server = {.linger = 20ms}});
     const auto device = registered();
     auto client = connect();
     EXPECT_EQ(client.send("GET", "/v1/balance", device).balance(), 10);
@@ -290,8 +349,21 @@ TEST_P(ApiTest, KeepsAConnectionUntilARequestIsMalformed)
     client.write("POST /v1/devices HTTP/1.1\r\nHost: test\r\nExpect: 100-continue\r\nContent-Length: 20\r\n\r\n");
     EXPECT_EQ(client.receive().status, 100);
     EXPECT_EQ(client.sendRaw(R"({"platform":"macos"})").status, 200);
+    client.write("HEAD /v1/balance HTTP/1.1\r\nHost: test\r\n\r\n");
+    EXPECT_EQ(client.receive(true).status, 405);
+    EXPECT_EQ(client.send("GET", "/v1/balance", device).balance(), 10);
     EXPECT_EQ(client.sendRaw("nonsense\r\n\r\n").error(), "bad_request");
     EXPECT_TRUE(client.isClosedByServer());
+    for (const auto *const framing :
+         {"Transfer-Encoding: gzip\r\n", "Transfer-Encoding: gzip, chunked\r\n", "Transfer-Encoding: identity\r\n",
+          "Transfer-Encoding: gzip\r\nContent-Length: 2\r\n", "Content-Length: 2\r\nTransfer-Encoding: chunked\r\n",
+          "Transfer-Encoding: chunked\r\nContent-Length: 2\r\n", "Content-Length: 2\r\nContent-Length: 3\r\n"}) {
+        auto other = connect();
+        const auto answer =
+            other.sendRaw("POST /v1/devices HTTP/1.1\r\nHost: test\r\n" + std::string(framing) + "\r\n");
+        EXPECT_EQ(answer.error(), "bad_request") << framing;
+        EXPECT_TRUE(other.isClosedByServer()) << framing;
+    }
 }
 
 TEST_P(ApiTest, ClosesConnectionsThatAreIdleOrTooSlow)
@@ -302,18 +374,21 @@ TEST_P(ApiTest, ClosesConnectionsThatAreIdleOrTooSlow)
         client.write(beginning);
         EXPECT_TRUE(client.isClosedByServer()) << beginning;
     }
+    server->stop();
+    EXPECT_THAT(log, testing::ContainsRegex(R"("-".*"status":408(.|\n)*"POST".*"status":408)"));
 }
 
 TEST_P(ApiTest, LimitsTheRegistrationsOfAnAddressBehindATrustedProxyToo)
 {
     start({.api = {.registrationsPerHour = 2},
-           .server = {.trustedProxies = {boost::asio::ip::make_address("127.0.0.1")}}});
+           .server = {.trustedProxies = {boost::asio::ip::make_address("127.0.0.1"),
+                                         boost::asio::ip::make_address("10.0.0.1")}}});
     const auto attempt = [&](const std::string &forwarded) {
         return connect().send("POST", "/v1/devices", "X-Forwarded-For: " + forwarded + "\r\n", R"({"platform":"x"})");
     };
     EXPECT_EQ(attempt("192.0.2.9, 192.0.2.1").status, 200);
-    EXPECT_EQ(attempt("192.0.2.1").status, 200);
-    const auto refused = attempt("192.0.2.8, 192.0.2.1"); // what the client claims does not count
+    EXPECT_EQ(attempt("192.0.2.8, 10.0.0.1\r\nX-Forwarded-For: 192.0.2.1, 10.0.0.1").status, 200);
+    const auto refused = attempt("192.0.2.7\r\nX-Forwarded-For: 192.0.2.1"); // what the client claims does not count
     EXPECT_EQ(refused.status, 429);
     EXPECT_EQ(refused.error(), "too_many_registrations");
     EXPECT_THAT(std::stoi(refused.retryAfter), testing::AllOf(testing::Le(1800), testing::Gt(1700)));
@@ -347,7 +422,7 @@ TEST_P(ApiTest, TellsTheOperatorEnoughAndNoSecret)
     }
 }
 
-TEST_P(ApiTest, FinishesTheRunningRequestsWhenItStops)
+TEST_P(ApiTest, FinishesTheRunningRequestsAndRefusesTheOthersWhenItStops)
 {
     start({.freeTokens = 10});
     const auto device = registered();
@@ -355,15 +430,32 @@ TEST_P(ApiTest, FinishesTheRunningRequestsWhenItStops)
     EXPECT_EQ(idle.send("GET", "/v1/balance", device).status, 200);
     auto beginning = connect();
     beginning.write("GET /v1/b");
-    std::latch entered(2);
+    std::latch entered(3);
     engine->together = &entered;
-    auto running = std::async(std::launch::async, [&] { return transcribe(device, tone()).balance(); });
-    awaitEngine();
-    auto stopped = std::async(std::launch::async, [&] { server->stop(); });
+    auto running = std::async(std::launch::async, [&] { return transcribe(device, tone()).status; });
+    auto second = connect();
+    second.write(upload(device, tone()));
+    while (engine->runs < 2) {
+        std::this_thread::yield();
+    }
+    auto queued = connect(); // the engine takes two at a time
+    queued.write(upload(device, tone()));
+    while (transcriber->placesTaken() < 3) {
+        std::this_thread::yield();
+    }
+    auto uploading = connect();
+    uploading.write("POST /v1/transcribe HTTP/1.1\r\nHost: test\r\nContent-Length: 99\r\n" + device + "\r\n--b");
+    auto stopped = std::async(std::launch::async, [&] { server->stop([&] { transcriber->stop(); }); });
     EXPECT_TRUE(idle.isClosedByServer());
-    EXPECT_EQ(beginning.sendRaw("alance HTTP/1.1\r\nHost: test\r\n" + device + "\r\n").balance(), 10);
+    EXPECT_EQ(queued.receive().error(), "engine_busy");
+    EXPECT_EQ(uploading.receive().error(), "server_busy");
+    queued.close();
+    uploading.close();
+    EXPECT_GE(beginning.sendRaw("alance HTTP/1.1\r\nHost: test\r\n" + device + "\r\n").balance(), 6);
     beginning.close();
     entered.arrive_and_wait();
-    EXPECT_EQ(running.get(), 8);
+    EXPECT_EQ(running.get(), 200);
+    EXPECT_EQ(second.receive().status, 200);
+    second.close();
     stopped.get();
 }

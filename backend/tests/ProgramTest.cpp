@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/Audio.h"
 #include "support/ServerProgram.h"
 
 #include <QRegularExpression>
@@ -6,6 +7,8 @@
 #include <boost/asio/local/datagram_protocol.hpp>
 #include <gmock/gmock.h>
 #include <unistd.h>
+
+#include <future>
 
 using namespace Qt::StringLiterals;
 
@@ -197,6 +200,23 @@ TEST_F(ProgramTest, ServesWhileItsOperatorLooksAfterTheDevices)
     EXPECT_EQ(run({u"devices"_s, u"list"_s, u"--database"_s, mistyped}).code, 1);
     EXPECT_FALSE(QFile::exists(mistyped));
     EXPECT_EQ(server.stop(), 0);
+}
+
+TEST_F(ProgramTest, RefusesATranscriptionThatOutlastsItsStop)
+{
+    boost::asio::io_context io;
+    boost::asio::ip::tcp::acceptor upstream(io, {boost::asio::ip::address_v4::loopback(), 0});
+    const auto url = u"http://127.0.0.1:%1"_s.arg(upstream.local_endpoint().port());
+    ServerProgram server(QStringLiteral(QUILLO_BACKEND_PROGRAM), {u"--database"_s, database, u"--stop-timeout=0"_s,
+                                                                  u"--engine=openai"_s, u"--openai-base-url"_s, url});
+    auto client = server.connect();
+    const auto body = multipart(tone());
+    client.write("POST /v1/transcribe HTTP/1.1\r\nHost: test\r\n" + registeredAt(server.port()) +
+                 std::string(multipartHeader) + "Content-Length: " + std::to_string(body.size()) + "\r\n\r\n" + body);
+    const auto asked = upstream.accept(); // and never answered
+    auto stopped = std::async(std::launch::async, [&] { return client.receive(); });
+    EXPECT_EQ(server.stop(), 0);
+    EXPECT_EQ(stopped.get().error(), "server_busy");
 }
 
 TEST_F(ProgramTest, TakesItsSocketFromSystemdAndTellsItThatItIsReady)

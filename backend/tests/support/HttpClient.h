@@ -48,10 +48,13 @@ public:
 
     void write(std::string_view message) { boost::asio::write(m_socket, boost::asio::buffer(message)); }
 
-    HttpAnswer receive()
+    /// `isHead`: the answer has a body's length without the body.
+    HttpAnswer receive(bool isHead = false)
     {
-        boost::beast::http::response<boost::beast::http::string_body> response;
-        boost::beast::http::read(m_socket, m_buffer, response);
+        boost::beast::http::response_parser<boost::beast::http::string_body> parser;
+        parser.skip(isHead);
+        boost::beast::http::read(m_socket, m_buffer, parser);
+        const auto &response = parser.get();
         using field = boost::beast::http::field;
         const auto text = [&](auto name) { return std::string(response[name]); };
         return {response.result_int(), text(field::content_type), text(field::location), text(field::retry_after),

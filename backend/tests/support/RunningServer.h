@@ -31,10 +31,14 @@ public:
         m_thread = std::thread([this] { m_io.run(); });
     }
 
-    void stop()
+    /// `before` is called on the server's thread.
+    void stop(const std::function<void()> &before = [] {})
     {
         if (m_thread.joinable()) {
-            boost::asio::post(m_io, [this] { m_server->stop(); });
+            boost::asio::post(m_io, [&] {
+                before();
+                m_server->stop();
+            });
             m_thread.join();
         }
     }
