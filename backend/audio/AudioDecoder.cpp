@@ -15,6 +15,11 @@ extern "C" {
 
 namespace {
 
+// A file of some bytes may claim to have samples and tracks by the million, for each of which libav keeps an entry. The
+// index of the longest recording takes 1.4 MB, and no packet comes near it.
+constexpr size_t largestBlock = 16UL * 1024 * 1024;
+constexpr int mostTracks = 4;
+
 template <auto Free> struct Deleter {
     template <class T> void operator()(T *object) const { Free(&object); }
 };
@@ -92,6 +97,7 @@ Format openFormat(const Input &input)
         throw std::bad_alloc();
     }
     context->pb = input.get();
+    context->max_streams = mostTracks;
     context->io_open = refuseToOpen;
     // Frees the context when it fails. Only this demuxer: whatever else libavformat could probe for is refused.
     if (avformat_open_input(&context, "", av_find_input_format("mov"), nullptr) < 0) {
@@ -194,6 +200,7 @@ void decodePacket(AVCodecContext &codec, const AVPacket *packet, AVFrame &frame,
 size_t decodeAudio(std::string_view file, std::chrono::seconds longest, const SampleSink &sink)
 {
     av_log_set_level(AV_LOG_QUIET);
+    av_max_alloc(largestBlock);
     constexpr int bufferSize = 32 * 1024;
     MemoryFile memory{file};
     const Input input(avio_alloc_context(static_cast<uint8_t *>(av_malloc(bufferSize)), bufferSize, 0, &memory,

@@ -3,6 +3,8 @@
 #include "audio/AudioDecoder.h"
 #include "audio/SpeechGate.h"
 
+#include <sys/resource.h>
+
 #include <cmath>
 
 using namespace std::chrono_literals;
@@ -53,6 +55,27 @@ TEST(AudioDecoderTest, RefusesWhatIsNotAacInMpeg4)
     EXPECT_EQ(failure(recordingOf(generated("sine=duration=1"),
                                   {QStringLiteral("pcm_s16le"), QStringLiteral("-f"), QStringLiteral("wav")})),
               AudioError::Kind::Unsupported);
+}
+
+TEST(AudioDecoderTest, TakesLittleMemoryForASmallFileWithAHugeIndex)
+{
+    // The sample sizes' box claims 24 million samples of a byte, the chunks' box that they are all in the first chunk.
+    constexpr std::string_view count("\1\x6e\x36\0", 4);
+    auto file = tone();
+    const auto sizes = file.find("stsz");
+    const auto chunks = file.find("stsc");
+    ASSERT_TRUE(sizes != std::string::npos && chunks != std::string::npos);
+    file.replace(sizes + 8, 4, std::string_view("\0\0\0\1", 4));
+    file.replace(sizes + 12, 4, count);
+    file.replace(chunks + 16, 4, count);
+    const auto peak = [] {
+        rusage usage{};
+        getrusage(RUSAGE_SELF, &usage);
+        return usage.ru_maxrss; // in KiB
+    };
+    const auto before = peak();
+    EXPECT_EQ(failure(file), AudioError::Kind::Unsupported);
+    EXPECT_LT(peak() - before, 100 * 1024);
 }
 
 TEST(AudioDecoderTest, StopsAtTheLimit)
