@@ -83,11 +83,9 @@ void Connection::finish()
 {
     m_last = m_stopping = true;
     beast::error_code error;
-    if (m_receiving) {
-        m_stream.cancel();
-    } else if (m_idle && m_fresh) {
+    if (m_idle && m_fresh) {
         m_stream.expires_after(lastChance);
-    } else if (m_idle && m_stream.socket().available(error) == 0) {
+    } else if (m_receiving || (m_idle && m_stream.socket().available(error) == 0)) {
         m_stream.cancel();
     }
 }
