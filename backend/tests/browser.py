@@ -132,7 +132,7 @@ class Site:
         paths = "".join(f"{kind}_temp_path {folder}/{kind};\n" for kind in
                         ("client_body", "proxy", "fastcgi", "uwsgi", "scgi"))
         (folder / "nginx.conf").write_text(f"user root;\npid {folder}/pid;\nerror_log {folder}/errors;\nevents {{}}\n"
-                                           f"http {{\naccess_log off;\n{paths}{site}\n}}\n")
+                                           f"http {{\naccess_log {folder}/requests;\n{paths}{site}\n}}\n")
         nginx = ["nginx", "-c", folder / "nginx.conf", "-e", folder / "errors"]
         subprocess.run(nginx, check=True, stderr=subprocess.DEVNULL)  # returns when it listens
         stack.callback(subprocess.run, nginx + ["-s", "stop"], check=True, stderr=subprocess.DEVNULL)
@@ -165,7 +165,7 @@ class BrowserTest(unittest.TestCase):
         self.folder = self.stack.enter_context(tempfile.TemporaryDirectory())
 
     def test_the_proxy_passes_on_what_the_server_decides(self):
-        site = Site(self.stack, self.folder)
+        site = Site(self.stack, self.folder, "--free-tokens=9")
         site.register()
         self.assertEqual(site.send("GET", "/metrics")[0], 404)
         form = b'--b\r\nContent-Disposition: form-data; name="file"\r\n\r\n' + b"x" * 200_000 + b"\r\n--b--\r\n"
@@ -181,6 +181,23 @@ class BrowserTest(unittest.TestCase):
         lines = [json.loads(line) for line in site.server.stderr if line.startswith("{")]
         self.assertEqual({line["address"] for line in lines}, {"127.0.0.1"})  # not what the client claimed
         self.assertIn("/v1/transcribe", {line["route"] for line in lines})
+
+    def test_the_proxy_logs_no_link(self):
+        site = Site(self.stack, self.folder)
+        device = site.register()
+        path = urllib.parse.urlsplit(site.link(device)).path
+        self.assertEqual(site.send("GET", path)[0], 200)
+        plain = http.client.HTTPConnection("127.0.0.1", site.http)
+        with contextlib.closing(plain):
+            plain.request("GET", path, headers={"Host": NAME})
+            self.assertEqual(plain.getresponse().status, 308)
+        site.server.terminate()
+        site.server.wait()
+        for failing in (path, "/v1/balance"):
+            self.assertEqual(site.send("GET", failing)[0], 502)
+        logs = [pathlib.Path(self.folder, name).read_text() for name in ("requests", "errors")]
+        self.assertNotIn(path, "".join(logs))
+        self.assertIn("/v1/balance", logs[1])  # so this is where it would be
 
     def test_a_development_server_credits_at_once_on_any_screen(self):
         site = Site(self.stack, self.folder)
@@ -219,7 +236,8 @@ class BrowserTest(unittest.TestCase):
         browser.click("a")
         self.assertIn("as soon as the payment has arrived", browser.text("as soon as the payment has arrived"))
         self.assertEqual(site.balance(device), 0)
-        session = {"client_reference_id": StripePage.order["client_reference_id"], "payment_status": "paid"}
+        session = {"client_reference_id": StripePage.order["client_reference_id"], "payment_status": "paid",
+                   "amount_total": 199, "currency": "eur"}
         event = json.dumps({"id": "evt_1", "type": "checkout.session.completed", "data": {"object": session}})
         now = int(time.time())
         code = hmac.new(b"whsec_test", f"{now}.{event}".encode(), hashlib.sha256).hexdigest()
