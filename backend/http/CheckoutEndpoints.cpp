@@ -130,9 +130,9 @@ net::awaitable<Reply> CheckoutEndpoints::receiveEvent(const Request &request)
     }
     if (!event->purchaseId.isEmpty()) {
         const auto credited = co_await m_store.run(
-            [&](Store &store) { return store.checkout.complete(event->purchaseId, event->id).has_value(); });
+            [&](Store &store) { return store.checkout.complete(event->purchaseId, event->payment).has_value(); });
         logLine(credited ? "a purchase was credited"
-                         : "a payment event was a repetition, or about no purchase of ours");
+                         : "a payment event was a repetition, or about no purchase of ours at this price");
     }
     co_return jsonReply({{u"received"_s, true}});
 }

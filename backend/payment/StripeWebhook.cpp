@@ -55,8 +55,9 @@ std::optional<PaymentEvent> verifyStripeEvent(std::string_view signature, std::s
     }
     const auto document =
         QJsonDocument::fromJson(QByteArray(body.data(), static_cast<qsizetype>(body.size()))).object();
-    PaymentEvent event{document[u"id"_s].toString(), {}};
-    if (event.id.isEmpty()) {
+    PaymentEvent event;
+    event.payment.eventId = document[u"id"_s].toString();
+    if (event.payment.eventId.isEmpty()) {
         return std::nullopt;
     }
     const auto type = document[u"type"_s].toString();
@@ -64,6 +65,8 @@ std::optional<PaymentEvent> verifyStripeEvent(std::string_view signature, std::s
     // A session completes unpaid when the payment takes days, and the second type tells of its arrival.
     if ((type == u"checkout.session.completed"_s || type == u"checkout.session.async_payment_succeeded"_s) &&
         session[u"payment_status"_s].toString() == u"paid"_s) {
+        event.payment.amount = session[u"amount_total"_s].toInteger(-1);
+        event.payment.currency = session[u"currency"_s].toString();
         event.purchaseId = session[u"client_reference_id"_s].toString();
     }
     return event;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include "store/Payment.h"
 
 #include <optional>
 #include <string>
@@ -9,7 +9,7 @@
 
 /// Stripe's message that something was paid.
 struct PaymentEvent {
-    QString id;
+    Payment payment;
     QString purchaseId; ///< empty when the event is about anything else
 };
 

@@ -66,19 +66,20 @@ void Checkout::abandon(const QByteArray &token, const Purchase &purchase)
     transaction.commit();
 }
 
-std::optional<qint64> Checkout::complete(const QString &purchaseId, const QString &eventId)
+std::optional<qint64> Checkout::complete(const QString &purchaseId, const std::optional<Payment> &payment)
 {
     const auto now = m_clock();
     Transaction transaction(m_database);
-    if (!eventId.isEmpty() &&
+    if (payment &&
         m_database.change(u"INSERT INTO payment_events (id, received_at) VALUES (?, ?) ON CONFLICT (id) DO NOTHING"_s,
-                          {eventId, now}) == 0) {
+                          {payment->eventId, now}) == 0) {
         return std::nullopt;
     }
     const auto purchase = m_database.first(u"UPDATE purchases SET credited_at = ? WHERE id = ? AND credited_at IS NULL"
-                                           " RETURNING device_id, tokens"_s,
+                                           " RETURNING device_id, tokens, price, currency"_s,
                                            {now, purchaseId});
-    if (!purchase) {
+    if (!purchase || (payment && (purchase->at(2).toLongLong() != payment->amount ||
+                                  purchase->at(3).toString() != payment->currency))) {
         return std::nullopt;
     }
     const auto deviceId = purchase->at(0).toString();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "store/Ledger.h"
+#include "store/Payment.h"
 
 /// Something to buy.
 struct Pack {
@@ -34,8 +35,9 @@ public:
     void abandon(const QByteArray &token, const Purchase &purchase);
 
     /// Credits the purchase and returns its device's new balance; at most once, whatever is reported how often. Nothing
-    /// when there is no such purchase, or it was credited before. `eventId` is the payment provider's, if it has any.
-    std::optional<qint64> complete(const QString &purchaseId, const QString &eventId = {});
+    /// when there is no such purchase, it was credited before, or it costs something else than was paid. `payment` is
+    /// absent where nothing is paid.
+    std::optional<qint64> complete(const QString &purchaseId, const std::optional<Payment> &payment = {});
 
 private:
     Database &m_database;

@@ -83,10 +83,14 @@ protected:
 
     qint64 balance() const { return send("GET", "/v1/balance", device).balance(); }
 
-    static std::string event(const QString &id, const QString &type, const QString &purchase, const QString &status)
+    static std::string event(const QString &id, const QString &type, const QString &purchase, const QString &status,
+                             qint64 amount = 1499)
     {
-        const QJsonObject session{
-            {u"object"_s, u"checkout.session"_s}, {u"client_reference_id"_s, purchase}, {u"payment_status"_s, status}};
+        const QJsonObject session{{u"object"_s, u"checkout.session"_s},
+                                  {u"client_reference_id"_s, purchase},
+                                  {u"payment_status"_s, status},
+                                  {u"amount_total"_s, amount},
+                                  {u"currency"_s, u"eur"_s}};
         const QJsonObject event{{u"id"_s, id}, {u"type"_s, type}, {u"data"_s, QJsonObject{{u"object"_s, session}}}};
         return QJsonDocument(event).toJson().toStdString();
     }
@@ -161,6 +165,7 @@ TEST_P(CheckoutTest, SellsWithStripeAndCreditsWhatItSaysIsPaidOnce)
     EXPECT_EQ(receive(event(u"evt_0"_s, completed, purchase, u"unpaid"_s)), 200);
     EXPECT_EQ(receive(event(u"evt_2"_s, u"charge.updated"_s, purchase, u"paid"_s)), 200);
     EXPECT_EQ(receive(event(u"evt_3"_s, completed, u"unknown"_s, u"paid"_s)), 200);
+    EXPECT_EQ(receive(event(u"evt_5"_s, completed, purchase, u"paid"_s, 1)), 200);
     EXPECT_EQ(balance(), 0);
     EXPECT_EQ(receive(paid, now - 299), 200);
     EXPECT_EQ(balance(), 36'000);
