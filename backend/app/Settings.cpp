@@ -14,8 +14,8 @@ namespace {
 constexpr qint64 mostTokens = 1'000'000'000'000;
 // What waits longer than Quillo does, two minutes, is better refused at once. The embedded engine takes some ten
 // seconds for a dictation, one after the other; a transcription server takes many at a time.
-constexpr qint64 embeddedQueue = 8;
-constexpr qint64 serverQueue = 256;
+constexpr int embeddedQueue = 8;
+constexpr int serverQueue = 256;
 
 /// The value that `choices` gives to the option's text.
 template <class T> T choice(const Options &options, const QString &name, const QList<std::pair<QString, T>> &choices)

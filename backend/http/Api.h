@@ -8,7 +8,8 @@
 struct ApiOptions {
     TranscribeEndpoint::Options transcription = {};
     CheckoutOptions checkout = {};
-    int registrationsPerHour = 60; ///< of one address; 0 is no limit
+    int registrationsPerHour = 60;                 ///< of one address; 0 is no limit
+    std::chrono::milliseconds databaseCheck{3000}; ///< after which the database counts as failed
 };
 
 /// All endpoints, and what they share.
@@ -27,9 +28,11 @@ public:
     void countConnections(std::function<size_t()> connections) { m_connections = std::move(connections); }
 
 private:
+    net::awaitable<bool> databaseAnswers();
     net::awaitable<Reply> health(const Request &request);
     net::awaitable<Reply> showMetrics(const Request &request);
 
+    std::chrono::milliseconds m_databaseCheck;
     StoreThreads &m_store;
     Transcriber &m_transcriber;
     Metrics m_metrics;

@@ -35,7 +35,8 @@ void createPrivately(const QString &path)
     }
 }
 
-void addressPostgreSql(QSqlDatabase &connection, const QString &location)
+/// Whether `location` leaves the time of a statement to this program.
+bool addressPostgreSql(QSqlDatabase &connection, const QString &location)
 {
     const QUrl url(location, QUrl::StrictMode);
     if (!url.isValid()) {
@@ -47,11 +48,21 @@ void addressPostgreSql(QSqlDatabase &connection, const QString &location)
     connection.setPassword(url.password(QUrl::FullyDecoded));
     connection.setDatabaseName(url.path(QUrl::FullyDecoded).mid(1));
     QStringList options;
-    for (auto [key, value] : QUrlQuery(url).queryItems(QUrl::FullyDecoded)) {
+    bool limitsStatements = false;
+    auto items = QUrlQuery(url).queryItems(QUrl::FullyDecoded);
+    // A server that is gone without a word, in seconds and milliseconds; libpq would wait for minutes or for ever.
+    for (const auto &limit : {std::pair(u"connect_timeout"_s, u"5"_s), std::pair(u"tcp_user_timeout"_s, u"10000"_s)}) {
+        if (!QUrlQuery(url).hasQueryItem(limit.first)) {
+            items.append(limit);
+        }
+    }
+    for (auto [key, value] : items) {
+        limitsStatements = limitsStatements || (key == u"options"_s && value.contains(u"statement_timeout"_s));
         value.replace(u"\\"_s, u"\\\\"_s).replace(u"'"_s, u"\\'"_s);
         options.append(key + u"='"_s + value + u'\'');
     }
     connection.setConnectOptions(options.join(u';'));
+    return !limitsStatements;
 }
 
 } // namespace
@@ -68,7 +79,7 @@ Database::Database(QString location)
       m_connection(QSqlDatabase::addDatabase(m_postgreSql ? u"QPSQL"_s : u"QSQLITE"_s, m_name))
 {
     if (m_postgreSql) {
-        addressPostgreSql(m_connection, m_location);
+        m_limitsStatements = addressPostgreSql(m_connection, m_location);
     } else {
         createPrivately(m_location);
         m_connection.setDatabaseName(m_location);
@@ -94,6 +105,9 @@ void Database::open()
     }
     if (m_postgreSql) {
         command(u"SET client_min_messages = warning"_s);
+        if (m_limitsStatements) {
+            command(u"SET statement_timeout = '10s'"_s);
+        }
     } else {
         command(u"PRAGMA journal_mode = WAL"_s);
         command(u"PRAGMA synchronous = FULL"_s);
@@ -119,6 +133,7 @@ void Database::migrate()
 {
     Transaction transaction(*this);
     if (m_postgreSql) {
+        command(u"SET LOCAL statement_timeout = 0"_s);      // other processes and large tables may take their time
         select(u"SELECT pg_advisory_xact_lock(7117551)"_s); // any number that is always the same
     }
     command(u"CREATE TABLE IF NOT EXISTS schema_version (version INTEGER NOT NULL)"_s);

@@ -22,8 +22,9 @@ using Row = QVariantList;
 /// for what comes next.
 class Database {
 public:
-    /// `location` begins with "postgresql://" (libpq's URI form; one host, options in the query), or is the path of a
-    /// file that is created when it is missing, readable by its owner only. Brings the tables up to date, also when
+    /// `location` begins with "postgresql://" (libpq's URI form; one host, options in the query, which may set other
+    /// limits than the 5 s to connect and the 10 s for a statement), or is the path of a file that is created when it
+    /// is missing, readable by its owner only. Brings the tables up to date, also when
     /// several processes do so at once. Throws StoreError.
     explicit Database(QString location);
     ~Database();
@@ -52,6 +53,7 @@ private:
 
     QString m_location;
     bool m_postgreSql;
+    bool m_limitsStatements = false; ///< unless the location does
     QString m_name;
     QSqlDatabase m_connection;
     std::unordered_map<QString, QSqlQuery> m_prepared;

@@ -6,6 +6,7 @@
 #include "support/RunningServer.h"
 #include "support/TestDatabase.h"
 
+#include <boost/asio/detached.hpp>
 #include <gmock/gmock.h>
 
 #include <atomic>
@@ -98,6 +99,7 @@ protected:
     WallClock clock = [] { return 1'700'000'000; };
     std::string log;
     std::unique_ptr<RunningServer> server; // stopped before what it uses goes, gone after the threads that resume on it
+    net::thread_pool waiting{1};           // so are these
     std::unique_ptr<StoreThreads> store;
     StubEngine *engine = nullptr;
     std::unique_ptr<Transcriber> transcriber;
@@ -420,6 +422,31 @@ TEST_P(ApiTest, TellsTheOperatorEnoughAndNoSecret)
     for (const auto &secret : {credential.substr(0, 22), std::string("hello"), link.substr(10)}) {
         EXPECT_THAT(log + metrics, testing::Not(testing::HasSubstr(secret)));
     }
+}
+
+TEST_P(ApiTest, TellsThatItsDatabaseHangs)
+{
+    start({.api = {.databaseCheck = 20ms}});
+    while (connect().send("GET", "/healthz").status != 200) { // while the engine is being made ready
+        std::this_thread::yield();
+    }
+    const auto connections = GetParam() == DatabaseKind::Sqlite ? 1 : 4;
+    std::latch entered(connections);
+    std::latch released(1);
+    const auto hang = [&](Store &) {
+        entered.count_down();
+        released.wait();
+        return true;
+    };
+    for (int i = 0; i < connections; ++i) {
+        net::co_spawn(waiting, store->run(hang), net::detached);
+    }
+    entered.wait();
+    const auto answer = connect().send("GET", "/healthz");
+    EXPECT_EQ(answer.status, 503);
+    EXPECT_EQ(answer.json()[u"database"_s], u"failed"_s);
+    released.count_down();
+    waiting.join();
 }
 
 TEST_P(ApiTest, FinishesTheRunningRequestsAndRefusesTheOthersWhenItStops)

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "store/Migrations.h"
 #include "store/StoreThreads.h"
 #include "support/TestDatabase.h"
 
 #include <QDir>
+#include <QSqlError>
+#include <QUrl>
 #include <gmock/gmock.h>
 
 #include <barrier>
@@ -22,6 +25,28 @@ protected:
     static QByteArray credential(const Registration &device)
     {
         return (device.deviceId + QLatin1Char('.') + device.secret).toLatin1();
+    }
+
+    /// Past what brings the tables up to date.
+    void runRaw(const QStringList &statements) const
+    {
+        const auto isPostgreSql = GetParam() == DatabaseKind::PostgreSql;
+        const QUrl url(database.location());
+        {
+            auto connection = QSqlDatabase::addDatabase(isPostgreSql ? u"QPSQL"_s : u"QSQLITE"_s, u"raw"_s);
+            connection.setDatabaseName(isPostgreSql ? url.path().mid(1) : database.location());
+            connection.setUserName(url.userName());
+            connection.setConnectOptions(isPostgreSql ? url.query() : QString());
+            EXPECT_TRUE(connection.open());
+            for (auto statement : statements) {
+                statement.replace(u"{blob}"_s, isPostgreSql ? u"BYTEA"_s : u"BLOB"_s);
+                statement.replace(u"{serial}"_s, isPostgreSql ? u"BIGINT GENERATED ALWAYS AS IDENTITY PRIMARY KEY"_s
+                                                              : u"INTEGER PRIMARY KEY"_s);
+                QSqlQuery query(connection);
+                EXPECT_TRUE(query.exec(statement)) << query.lastError().text().toStdString();
+            }
+        }
+        QSqlDatabase::removeDatabase(u"raw"_s);
     }
 
     TestDatabase database{GetParam()};
@@ -194,6 +219,45 @@ TEST_P(StoreTest, ConnectsAnewAfterTheConnectionWasLost)
     EXPECT_TRUE(store->devices.authenticate(credential(device)));
 }
 
+TEST_P(StoreTest, LimitsAStatementUnlessItsLocationDoes)
+{
+    if (GetParam() == DatabaseKind::Sqlite) {
+        GTEST_SKIP() << "it is in this process";
+    }
+    const auto limit = [](const QString &location) {
+        return Database(location).first(u"SELECT current_setting('statement_timeout')"_s)->at(0).toString();
+    };
+    EXPECT_EQ(limit(database.location()), u"10s"_s);
+    EXPECT_EQ(limit(database.location() + u"&options=-c%20statement_timeout%3D3s"_s), u"3s"_s);
+}
+
+TEST_P(StoreTest, BringsTheFirstVersionsTablesUpToDateThroughManyConnectionsAtOnce)
+{
+    auto statements = migrations().first();
+    statements +=
+        {u"CREATE TABLE schema_version (version INTEGER NOT NULL)"_s, u"INSERT INTO schema_version VALUES (1)"_s,
+         u"INSERT INTO devices VALUES ('old', 'x', 'linux', 1699999999, 60, 0)"_s,
+         u"INSERT INTO ledger (device_id, amount, reason, created_at) VALUES ('old', 60, 'grant', 1699999999)"_s};
+    runRaw(statements);
+    constexpr int connections = 4;
+    std::barrier begin(connections);
+    std::atomic<int> granted = 0;
+    std::vector<std::jthread> threads;
+    for (int i = 0; i < connections; ++i) {
+        threads.emplace_back([&] {
+            begin.arrive_and_wait();
+            const auto store = open({.freeTokens = 10, .dailyPool = 80}); // of which 60 are gone
+            granted += store->devices.add(u"linux"_s).freeGrantMissed ? 0 : 1;
+        });
+    }
+    threads.clear();
+    EXPECT_EQ(granted, 2);
+    const auto store = open();
+    EXPECT_EQ(store->devices.find(u"old"_s)->balance, 60);
+    EXPECT_EQ(store->ledger.entries(u"old"_s, 0, 9).size(), 1);
+    EXPECT_THAT(store->ledger.unexplained(), testing::IsEmpty());
+}
+
 TEST_P(StoreTest, GrantsFreeTokensUntilTheDaysPoolIsEmpty)
 {
     const auto store = open({.freeTokens = 10, .dailyPool = 25});
@@ -223,10 +287,12 @@ TEST_P(StoreTest, SellsOncePerLinkAndCreditsOncePerPurchase)
     purchase = checkout.begin(link, {100, 199}, u"eur"_s);
     ASSERT_TRUE(purchase);
     EXPECT_EQ(store->ledger.balance(id), 0);
-    EXPECT_EQ(checkout.complete(u"unknown"_s, u"event 0"_s), std::nullopt);
-    EXPECT_EQ(checkout.complete(purchase->id, u"event 1"_s), 100);
-    EXPECT_EQ(checkout.complete(purchase->id, u"event 1"_s), std::nullopt);
-    EXPECT_EQ(checkout.complete(purchase->id, u"event 2"_s), std::nullopt);
+    EXPECT_EQ(checkout.complete(u"unknown"_s, Payment{u"event 0"_s, 199, u"eur"_s}), std::nullopt);
+    EXPECT_EQ(checkout.complete(purchase->id, Payment{u"event 1"_s, 198, u"eur"_s}), std::nullopt);
+    EXPECT_EQ(checkout.complete(purchase->id, Payment{u"event 1"_s, 199, u"usd"_s}), std::nullopt);
+    EXPECT_EQ(checkout.complete(purchase->id, Payment{u"event 1"_s, 199, u"eur"_s}), 100);
+    EXPECT_EQ(checkout.complete(purchase->id, Payment{u"event 1"_s, 199, u"eur"_s}), std::nullopt);
+    EXPECT_EQ(checkout.complete(purchase->id, Payment{u"event 2"_s, 199, u"eur"_s}), std::nullopt);
 
     const auto late = checkout.addLink(id);
     now += 1800;
