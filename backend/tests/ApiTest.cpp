@@ -29,7 +29,7 @@ public:
             together->arrive_and_wait();
         }
         if (fails) {
-            throw EngineError("out of order");
+            throw EngineError("out of order", 7s);
         }
         return text;
     }
@@ -221,7 +221,9 @@ TEST_P(ApiTest, TakesNothingForWhatBringsNoText)
     engine->text = QStringLiteral(" ");
     EXPECT_EQ(transcribe(device, tone()).body, R"({"balance":10,"text":""})");
     engine->fails = true;
-    EXPECT_EQ(transcribe(device, tone()).error(), "engine_unavailable");
+    const auto failed = transcribe(device, tone());
+    EXPECT_EQ(failed.error(), "engine_unavailable");
+    EXPECT_EQ(failed.retryAfter, "7");
     EXPECT_EQ(balance(device), 10);
 }
 

@@ -243,6 +243,7 @@ TEST_P(StoreTest, BringsTheFirstVersionsTablesUpToDateThroughManyConnectionsAtOn
     std::barrier begin(connections);
     std::atomic<int> granted = 0;
     std::vector<std::jthread> threads;
+    threads.reserve(connections);
     for (int i = 0; i < connections; ++i) {
         threads.emplace_back([&] {
             begin.arrive_and_wait();
