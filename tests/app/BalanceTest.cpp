@@ -16,7 +16,7 @@ protected:
     {
         ASSERT_TRUE(isWatching());
         const int before = server.count("/v1/balance");
-        const bool ends = balance > *model->balance();
+        const bool ends = model->balance() && balance > *model->balance();
         fake.clock.advance(5s);
         ASSERT_TRUE(await([&] { return server.count("/v1/balance") > before; }));
         ASSERT_TRUE(await([&] { return isWatching() || (ends && model->balance() == balance); }));
@@ -95,5 +95,46 @@ TEST_F(BalanceTest, AWatchGivesUpAfterAQuarterOfAnHourAndANewPurchaseReplacesIt)
     balance = 3;
     fake.clock.advance(5s);
     ASSERT_TRUE(await([&] { return model->balance() == 3; }));
+    EXPECT_FALSE(isWatching());
+}
+
+TEST_F(BalanceTest, PollsThatFailCountAndWithoutAnEarlierBalanceNoneIsThePurchase)
+{
+    const auto answer = server.onRequest;
+    bool isDown = true;
+    server.onRequest = [&](const HttpServer::Request &request) {
+        return isDown && request.path == "/v1/balance" ? HttpServer::Response{500} : answer(request);
+    };
+    model->start();
+    ASSERT_TRUE(await([&] { return server.count("/v1/balance") == 1; }));
+    buy();
+    for (int i = 0; i < 90; ++i) {
+        poll();
+    }
+    EXPECT_EQ(model->balance(), std::nullopt);
+    isDown = false;
+    for (int i = 0; i < 89; ++i) {
+        ++balance;
+        poll();
+    }
+    EXPECT_TRUE(isWatching());
+    balance = 3;
+    fake.clock.advance(5s);
+    ASSERT_TRUE(await([&] { return model->balance() == 3; }));
+    EXPECT_FALSE(isWatching());
+}
+
+TEST_F(BalanceTest, TwoPurchasesAtOnceOpenTwoPagesAndAreWatchedAsOne)
+{
+    start();
+    const int before = server.count("/v1/balance");
+    model->buyTokens();
+    model->buyTokens();
+    ASSERT_TRUE(await([&] { return fake.workspace.opened.size() == 2; }));
+    poll();
+    poll();
+    EXPECT_EQ(server.count("/v1/balance"), before + 2);
+    balance = 20;
+    poll();
     EXPECT_FALSE(isWatching());
 }

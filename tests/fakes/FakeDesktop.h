@@ -88,11 +88,12 @@ public:
     bool openPrivacySettings(PrivacyPane pane) override
     {
         openedPane = pane;
-        return true;
+        return hasPrivacySettings;
     }
 
     QList<QUrl> opened;
     std::optional<PrivacyPane> openedPane;
+    bool hasPrivacySettings = true;
 };
 
 class FakeStatusItem : public StatusItem {
