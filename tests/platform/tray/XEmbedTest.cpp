@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "FakeClock.h"
 #include "Panel.h"
-#include "TestClient.h"
+#include "WindowTray.h"
 #include "platform/tray/TrayItem.h"
 #include "platform/tray/XEmbedItem.h"
 #include "support/Await.h"
@@ -9,7 +9,6 @@
 
 #include <QActionGroup>
 #include <QApplication>
-#include <QImage>
 #include <QMenu>
 
 #include <gtest/gtest.h>
@@ -22,11 +21,9 @@ namespace {
 
 const VirtualDisplay *display = nullptr; // one for the whole program: an application has one display
 
-// The grounds of the symbols.
-constexpr QRgb dark = qRgb(0x1a, 0x16, 0x12);
-constexpr QRgb red = qRgb(0xc9, 0x55, 0x3b);
+constexpr QRgb dark = WindowTray::dark;
+constexpr QRgb red = WindowTray::red;
 
-/// A tray that takes windows in, in the screen's upper left corner.
 class XEmbedTest : public testing::Test {
 protected:
     XEmbedTest()
@@ -37,39 +34,12 @@ protected:
     }
     ~XEmbedTest() override { QDBusConnection::disconnectFromBus(bus.name()); }
 
-    /// The part of the screen where the tray is.
-    QImage screen()
-    {
-        const XcbPtr<xcb_get_image_reply_t> image(xcb_get_image_reply(
-            user.xcb(),
-            xcb_get_image(user.xcb(), XCB_IMAGE_FORMAT_Z_PIXMAP, user.root(), 0, 0, static_cast<uint16_t>(bar.width()),
-                          static_cast<uint16_t>(bar.height()), UINT32_MAX),
-            nullptr));
-        return QImage(xcb_get_image_data(image.get()), bar.width(), bar.height(), QImage::Format_RGB32).copy();
-    }
-
-    /// What of the screen has the colour of a symbol's ground.
-    QRect symbol(QRgb ground)
-    {
-        const QImage image = screen();
-        QRect area;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                area |= image.pixel(x, y) == ground ? QRect(x, y, 1, 1) : QRect();
-            }
-        }
-        return area;
-    }
-
+    QRect symbol(QRgb ground) { return WindowTray::symbol(user, ground); }
     bool awaitSymbol(QRgb ground)
     {
-        return await([&] { return symbol(ground).width() >= 16 && symbol(ground).height() >= 16; });
+        return await([&] { return WindowTray::hasSymbol(user, ground); });
     }
 
-    static constexpr QSize bar{200, 32};
-    ChildProcess tray{
-        u"trayer"_s,
-        u"--edge top --align left --widthtype pixel --width 200 --heighttype pixel --height 32"_s.split(u' ')};
     FakeClock clock;
     QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"xembed"_s);
     TrayItem item{clock, bus};
@@ -79,8 +49,21 @@ protected:
 
 } // namespace
 
+TEST_F(XEmbedTest, ATrayThatComesLateOrComesBackHasTheIcon)
+{
+    clock.advance(3s);
+    for (int start = 0; start < 2; ++start) {
+        {
+            const WindowTray tray(*display);
+            EXPECT_TRUE(awaitSymbol(dark)) << start;
+        }
+        EXPECT_TRUE(await([this] { return symbol(dark).isEmpty(); })) << start;
+    }
+}
+
 TEST_F(XEmbedTest, TheIconStandsInTheTrayUntilAPanelShowsTheItem)
 {
+    const WindowTray tray(*display);
     clock.advance(2999ms);
     EXPECT_EQ(clock.pending(), 1);
     clock.advance(1ms);
@@ -109,6 +92,7 @@ TEST_F(XEmbedTest, APanelThatComesBackSoonLeavesNoSecondIcon)
 
 TEST_F(XEmbedTest, AClickOpensTheMenu)
 {
+    const WindowTray tray(*display);
     clock.advance(3s);
     ASSERT_TRUE(awaitSymbol(dark));
     const QPoint place = symbol(dark).center();

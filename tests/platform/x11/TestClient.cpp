@@ -3,6 +3,8 @@
 
 #include "support/Await.h"
 
+#include <QImage>
+
 #include <stdexcept>
 #include <xcb/xinput.h>
 #include <xcb/xtest.h>
@@ -116,6 +118,22 @@ void TestClient::click(int x, int y)
     fake(XCB_BUTTON_RELEASE, 1);
 }
 
+QRect TestClient::clickForMenu(int x, int y)
+{
+    const uint32_t events = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    xcb_change_window_attributes(m_xcb, m_root, XCB_CW_EVENT_MASK, &events);
+    click(x, y);
+    const auto shown = next([](const xcb_generic_event_t &event) {
+        return eventType(event) == XCB_MAP_NOTIFY && eventAs<xcb_map_notify_event_t>(event).override_redirect != 0;
+    });
+    if (!shown) {
+        return {};
+    }
+    const auto window = eventAs<xcb_map_notify_event_t>(*shown).window;
+    const auto frame = reply(m_xcb, xcb_get_geometry_reply, xcb_get_geometry(m_xcb, window));
+    return frame ? QRect(frame->x, frame->y, frame->width, frame->height) : QRect();
+}
+
 void TestClient::fake(uint8_t type, int detail, int x, int y)
 {
     xcb_test_fake_input(m_xcb, type, uint8_t(detail), XCB_CURRENT_TIME, m_root, int16_t(x), int16_t(y), 0);
@@ -162,6 +180,22 @@ bool TestClient::ownsSelection(xcb_window_t window, const QByteArray &selection)
 xcb_window_t TestClient::selectionOwner()
 {
     return reply(m_xcb, xcb_get_selection_owner_reply, xcb_get_selection_owner(m_xcb, atom("CLIPBOARD")))->owner;
+}
+
+QRect TestClient::extent(QRgb colour, QSize corner)
+{
+    const auto width = uint16_t(corner.width());
+    const auto height = uint16_t(corner.height());
+    const auto screen = reply(m_xcb, xcb_get_image_reply,
+                              xcb_get_image(m_xcb, XCB_IMAGE_FORMAT_Z_PIXMAP, m_root, 0, 0, width, height, UINT32_MAX));
+    const QImage image(xcb_get_image_data(screen.get()), width, height, QImage::Format_RGB32);
+    QRect area;
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            area |= image.pixel(x, y) == colour ? QRect(x, y, 1, 1) : QRect();
+        }
+    }
+    return area;
 }
 
 XcbPtr<xcb_generic_event_t> TestClient::next(const std::function<bool(const xcb_generic_event_t &)> &condition)

@@ -5,6 +5,8 @@
 #include "support/VirtualDisplay.h"
 
 #include <QByteArray>
+#include <QRect>
+#include <QRgb>
 
 #include <functional>
 #include <string>
@@ -38,12 +40,17 @@ public:
     void releaseOnKeyboard(int evdevCode);
     void moveTo(int x, int y);
     void click(int x, int y);
+    /// Clicks, and waits for the menu that opens: where it is on the screen, empty when none comes.
+    QRect clickForMenu(int x, int y);
 
     bool grabsKey(int evdevCode, uint16_t modifiers);
     void lockGroup(uint8_t group);
 
     bool ownsSelection(xcb_window_t window, const QByteArray &selection = "CLIPBOARD");
     xcb_window_t selectionOwner();
+
+    /// Around what has the colour on the screen, in its upper left corner of that size.
+    QRect extent(QRgb colour, QSize corner);
 
     /// The next event for which the condition holds, waited for while the event loop runs; null when none comes.
     /// Events before it are dropped.
