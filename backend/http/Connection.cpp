@@ -181,7 +181,7 @@ net::awaitable<void> Connection::serve(RequestParser &parser, AccessRecord &reco
     }
     memory.release();
     record.route = reply.route;
-    record.status = reply.status;
+    record.status = m_abandoned ? Refusal::serverBusy().reply().status : reply.status;
     record.sent = reply.body.size();
     record.delivered = !m_abandoned && co_await write(reply, parser);
     co_await tellSent(reply, record.delivered);
@@ -235,12 +235,13 @@ net::awaitable<std::optional<Reply>> Connection::readBody(RequestParser &parser,
     m_receiving = true;
     const auto received = qScopeGuard([this] { m_receiving = false; });
     while (!parser.is_done()) {
-        m_stream.expires_at(std::min(Clock::now() + m_options.stall, deadline));
-        co_await http::async_read_some(m_stream, m_buffer, parser, net::redirect_error(net::use_awaitable, error));
-        if (m_stopping && !parser.is_done()) {
+        if (m_stopping) {
             co_return Refusal::serverBusy().reply();
         }
-        if (auto refusal = replyTo(error)) {
+        m_stream.expires_at(std::min(Clock::now() + m_options.stall, deadline));
+        co_await http::async_read_some(m_stream, m_buffer, parser, net::redirect_error(net::use_awaitable, error));
+        // finish() interrupts this, which is no failure of the client's.
+        if (auto refusal = m_stopping ? std::nullopt : replyTo(error)) {
             co_return refusal;
         }
         if (!memory.growTo(parser.get().body().size())) {
