@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Panel.h"
+#include "WindowTray.h"
 #include "e2e/Desktop.h"
 #include "support/Await.h"
 #include "support/Printing.h"
@@ -224,6 +225,20 @@ TEST(TrayTest, APanelShowsTheMenuAndTheGroupOfTheRunningProgram)
     EXPECT_EQ(title(), u"Quillo: Work"_s);
 
     panel.choose(item(u"Quit Quillo"_s));
+    EXPECT_EQ(desktop.quillo().wait(), 0);
+}
+
+TEST(TrayTest, ATrayThatTakesWindowsInHasTheIconWhoseMenuQuits)
+{
+    Desktop desktop({.hasEditor = false, .isStarted = false});
+    const WindowTray tray(desktop.display());
+    desktop.start();
+    TestClient &user = desktop.user();
+    ASSERT_TRUE(await([&] { return WindowTray::hasSymbol(user, WindowTray::dark); }));
+    const QPoint symbol = WindowTray::symbol(user, WindowTray::dark).center();
+    const QRect menu = user.clickForMenu(symbol.x(), symbol.y());
+    ASSERT_FALSE(menu.isEmpty());
+    user.click(menu.center().x(), menu.bottom() - 10); // the last item
     EXPECT_EQ(desktop.quillo().wait(), 0);
 }
 
