@@ -4,7 +4,9 @@
 #include "app/DisplayChoice.h"
 #include "app/Services.h"
 #include "app/StoredShortcuts.h"
+#include "app/TerminationSignals.h"
 #include "app/commands/CommandLine.h"
+#include "app/commands/InstanceCommands.h"
 #include "app/commands/Output.h"
 #include "app/remote/RemoteControl.h"
 #include "audio/AudioRecorder.h"
@@ -17,10 +19,10 @@
 #include "platform/x11/X11Examination.h"
 #include "service/HttpTransport.h"
 #include "shortcuts/CarbonHotKey.h"
+#include "ui/Paper.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
-#include <QDBusConnectionInterface>
 #include <QDir>
 #include <QFontDatabase>
 #include <QJsonDocument>
@@ -39,8 +41,37 @@ constexpr auto backendPatience = std::chrono::seconds(10);
 
 bool isRunning()
 {
-    const QDBusConnection bus = QDBusConnection::sessionBus();
-    return bus.isConnected() && bus.interface()->isServiceRegistered(RemoteControl::service()).value();
+    return RemoteControl::isRunning(QDBusConnection::sessionBus());
+}
+
+/// Without its shortcut no dictation begins; the others are a convenience.
+Level levelOfMissing(Use use)
+{
+    return use == Use::Dictation ? Level::Problem : Level::Note;
+}
+
+const QString chooseAnother = u"choose another one in the settings"_s;
+
+/// What the running program says of its shortcuts, which nobody else can try while it holds them.
+QList<Finding> heldHotKeyFindings()
+{
+    const QString subject = u"Hot keys"_s;
+    const QDBusReply<QVariantMap> status = InstanceCommands::fetchStatus(QDBusConnection::sessionBus());
+    if (!status.isValid()) {
+        return {{subject, Level::Problem, u"the running Quillo does not answer"_s, u"end it and start it again"_s}};
+    }
+    QList<Finding> findings;
+    for (const auto &[use, key] :
+         {std::pair(Use::Dictation, u"shortcutError"_s), std::pair(Use::Group, u"groupShortcutError"_s),
+          std::pair(Use::History, u"historyShortcutError"_s)}) {
+        if (const QVariant error = status.value().value(key); error.isValid()) {
+            findings.append({u"Hot key"_s, levelOfMissing(use), error.toString(), chooseAnother});
+        }
+    }
+    if (findings.isEmpty()) {
+        findings.append({subject, Level::Good, u"held by the running Quillo"_s});
+    }
+    return findings;
 }
 
 Finding busFinding()
@@ -53,11 +84,11 @@ Finding busFinding()
     return {subject, Level::Good, isRunning() ? u"there; Quillo is running"_s : u"there; Quillo isn't running"_s};
 }
 
-/// Whether the shortcuts can be had. A running Quillo has them already, and its menu says which it could not get.
+/// Whether the shortcuts can be had.
 QList<Finding> hotKeyFindings(X11Backend &x11, const Preferences &preferences)
 {
     if (isRunning()) {
-        return {{u"Hot keys"_s, Level::Good, u"held by the running Quillo; see: quillo status"_s}};
+        return heldHotKeyFindings();
     }
     QList<Finding> findings;
     for (const Use use : {Use::Dictation, Use::Group, Use::History}) {
@@ -68,10 +99,9 @@ QList<Finding> hotKeyFindings(X11Backend &x11, const Preferences &preferences)
         }
         const bool isFree =
             CarbonHotKey::create(x11.hotKeys(), combo->keyCode, combo->modifiers, [](bool) {}) != nullptr;
-        const Level ifTaken = use == Use::Dictation ? Level::Problem : Level::Note;
         findings.append(isFree ? Finding{u"Hot key"_s, Level::Good, shortcut.label() + u" is free"_s}
-                               : Finding{u"Hot key"_s, ifTaken, shortcut.label() + u" is taken by another program"_s,
-                                         u"choose another one in the settings"_s});
+                               : Finding{u"Hot key"_s, levelOfMissing(use),
+                                         shortcut.label() + u" is taken by another program"_s, chooseAnother});
     }
     return findings;
 }
@@ -131,17 +161,14 @@ Finding consentFinding(const AIConsent &consent)
 
 Finding fontFinding()
 {
-    const QStringList families = QFontDatabase::families();
-    const bool hasFraunces =
-        std::ranges::any_of(families, [](const QString &name) { return name.startsWith(u"Fraunces"); });
-    const bool hasSans = families.contains(u"Liberation Sans");
-    if (!hasSans) {
+    Paper::registerFonts(ResourceInfo::defaultFolder());
+    if (!QFontDatabase::families().contains(u"Liberation Sans")) {
         return {u"Fonts"_s, Level::Note, u"Liberation Sans is missing: another face stands in"_s,
                 u"install fonts-liberation"_s};
     }
     return {u"Fonts"_s, Level::Good,
-            hasFraunces ? u"Liberation Sans, Fraunces"_s
-                        : u"Liberation Sans; the system serif stands in for Fraunces"_s};
+            Paper::hasFraunces() ? u"Liberation Sans, Fraunces"_s
+                                 : u"Liberation Sans; the system serif stands in for Fraunces"_s};
 }
 
 void print(const Finding &finding)
@@ -156,7 +183,7 @@ void print(const Finding &finding)
     Output::print(line);
 }
 
-QCoro::Task<void> examine(Services &services)
+QCoro::Task<void> examine(Services &services, QString recording)
 {
     bool isFit = true;
     const auto tell = [&isFit](const QList<Finding> &findings) {
@@ -170,9 +197,8 @@ QCoro::Task<void> examine(Services &services)
         std::ranges::any_of(display, [](const Finding &row) { return row.subject == u"XEmbed tray"; });
     tell(display);
     tell({busFinding(), examineTray(QDBusConnection::sessionBus(), hasXEmbed)});
-    const QString path = AudioRecorder::newPath(services.files);
     const AudioSettings settings = AudioRecorder::settings();
-    const QList<Finding> sound = co_await examineSound(services.clock, path, settings);
+    const QList<Finding> sound = co_await examineSound(services.clock, recording, settings);
     tell(sound);
     tell({examineSecretService(), services.preferences.examine(), consentFinding(services.consent)});
     const Finding backend = co_await backendFinding(services);
@@ -186,6 +212,10 @@ QCoro::Task<void> examine(Services &services)
 int doctorCommand()
 {
     Services services;
-    QTimer::singleShot(0, qApp, [&services] { examine(services); });
-    return QCoreApplication::exec();
+    const QString recording = AudioRecorder::newPath(services.files);
+    const TerminationSignals signals([] { QCoreApplication::exit(ExitStatus::failed); });
+    QTimer::singleShot(0, qApp, [&] { examine(services, recording); });
+    const int status = QCoreApplication::exec();
+    AudioRecorder::discard(recording); // a signal may have come before it was removed
+    return status;
 }

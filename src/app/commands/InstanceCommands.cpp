@@ -6,7 +6,6 @@
 #include "app/remote/RemoteControl.h"
 
 #include <QDBusMessage>
-#include <QDBusReply>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -89,15 +88,20 @@ int InstanceCommands::activate(const QDBusConnection &bus)
     return call(bus, u"Activate"_s, {QVariantMap()});
 }
 
+QDBusReply<QVariantMap> InstanceCommands::fetchStatus(const QDBusConnection &bus)
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(RemoteControl::service(), RemoteControl::path(),
+                                                          RemoteControl::interface(), u"GetStatus"_s);
+    message.setAutoStartService(false);
+    return bus.call(message);
+}
+
 int InstanceCommands::printStatus(const QDBusConnection &bus, bool asJson)
 {
     if (const auto status = unreachable(bus)) {
         return *status;
     }
-    QDBusMessage message = QDBusMessage::createMethodCall(RemoteControl::service(), RemoteControl::path(),
-                                                          RemoteControl::interface(), u"GetStatus"_s);
-    message.setAutoStartService(false);
-    const QDBusReply<QVariantMap> reply = bus.call(message);
+    const QDBusReply<QVariantMap> reply = fetchStatus(bus);
     if (!reply.isValid()) {
         return Output::fail(u"Quillo did not answer: %1"_s.arg(reply.error().message()), ExitStatus::failed);
     }
