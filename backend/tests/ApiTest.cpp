@@ -146,13 +146,13 @@ TEST_P(ApiTest, RefusesAnUploadBeforeItsBodyIsSent)
 {
     start({.freeTokens = 0});
     const auto head = [](const std::string &authorization) {
-        return "POST /v1/transcribe HTTP/1.1\r\nHost: test\r\nContent-Length: 10000000\r\n" + authorization + "\r\n";
+        return "POST /v1/transcribe HTTP/1.1\r\nHost: test\r\nContent-Length: 8000000\r\n" + authorization + "\r\n";
     };
     EXPECT_EQ(connect().sendRaw(head({})).status, 401);
     EXPECT_EQ(connect().sendRaw(head("Expect: 100-continue\r\n")).status, 401);
     EXPECT_EQ(connect().sendRaw(head(registered())).status, 402);
     // Also who listens only when all is sent gets the reply.
-    EXPECT_EQ(connect().sendRaw(head({}) + std::string(10'000'000, 'x')).status, 401);
+    EXPECT_EQ(connect().sendRaw(head({}) + std::string(8'000'000, 'x')).status, 401);
 }
 
 TEST_P(ApiTest, HoldsNoMoreBodiesThanItHasMemoryFor)
