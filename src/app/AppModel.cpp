@@ -117,6 +117,9 @@ void AppModel::setHistoryShortcut(const Shortcut &shortcut)
 
 void AppModel::armShortcut()
 {
+    if (m_isDisarmed) {
+        return;
+    }
     const bool isArmed = m_monitor.activate(m_shortcut);
     m_shortcutError =
         isArmed ? std::nullopt
@@ -126,6 +129,9 @@ void AppModel::armShortcut()
 
 void AppModel::armWindowShortcuts()
 {
+    if (m_isDisarmed) {
+        return;
+    }
     m_groupHotKey.reset();
     m_historyHotKey.reset();
     m_groupHotKey = armWindowShortcut(m_groupShortcut, [this] { cycleGroup(true); });
@@ -137,9 +143,17 @@ void AppModel::armWindowShortcuts()
 
 void AppModel::disarmShortcuts()
 {
+    m_isDisarmed = true;
     m_monitor.deactivate();
     m_groupHotKey.reset();
     m_historyHotKey.reset();
+}
+
+void AppModel::rearmShortcuts()
+{
+    m_isDisarmed = false;
+    armShortcut();
+    armWindowShortcuts();
 }
 
 std::unique_ptr<CarbonHotKey> AppModel::armWindowShortcut(const Shortcut &shortcut, std::function<void()> action)

@@ -90,10 +90,12 @@ public:
     const std::optional<QString> &groupShortcutError() const { return m_groupShortcutError; }
     const std::optional<QString> &historyShortcutError() const { return m_historyShortcutError; }
 
+    /// Arm the shortcuts with their current values. While they are disarmed, that waits until they are rearmed.
     void armShortcut();
     void armWindowShortcuts();
-    /// Switches all shortcuts off until they are armed again, so that pressing one can be recorded.
+    /// Switches all shortcuts off, so that pressing one can be recorded.
     void disarmShortcuts();
+    void rearmShortcuts();
 
     /// Makes the next or previous group active, and says so on the HUD when no dictation runs.
     void cycleGroup(bool forward);
@@ -185,6 +187,7 @@ private:
     bool m_isTrusted = false;
     AudioRecorder::Permission m_microphone;
     bool m_hasConsent = false;
+    bool m_isDisarmed = false;
     std::optional<QString> m_shortcutError;
     Shortcut m_shortcut;
     TriggerMode m_triggerMode;

@@ -41,11 +41,7 @@ SettingsModel::Shortcuts recordingShortcuts(AppModel &model)
 {
     return {
         .disarm = [&model] { model.disarmShortcuts(); },
-        .arm =
-            [&model] {
-                model.armShortcut();
-                model.armWindowShortcuts();
-            },
+        .arm = [&model] { model.rearmShortcuts(); },
         .setShortcut = [&model](const Shortcut &shortcut) { model.setShortcut(shortcut); },
         .setGroupShortcut = [&model](const Shortcut &shortcut) { model.setGroupShortcut(shortcut); },
         .setHistoryShortcut = [&model](const Shortcut &shortcut) { model.setHistoryShortcut(shortcut); },

@@ -19,6 +19,7 @@ void RecorderModel::toggle()
     if (isRecording()) {
         stop();
     } else {
+        Q_EMIT aboutToStart();
         m_window = QGuiApplication::focusWindow();
         m_recorder.start();
     }

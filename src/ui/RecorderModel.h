@@ -32,6 +32,7 @@ public:
     Q_INVOKABLE void stop();
 
 Q_SIGNALS:
+    void aboutToStart();
     void changed();
 
 private:

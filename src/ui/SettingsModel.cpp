@@ -23,11 +23,10 @@ SettingsModel::SettingsModel(TranscriptionStore &store, GroupStore &groups, cons
     connect(&groups, &GroupStore::activeIdChanged, this, &SettingsModel::groupsChanged);
     for (RecorderModel &recorder : m_recorders) {
         QQmlEngine::setObjectOwnership(&recorder, QQmlEngine::CppOwnership);
-        connect(&recorder, &RecorderModel::changed, this, [this, &recorder] {
+        // Before it switches the shortcuts off: one that ends its listening switches them on.
+        connect(&recorder, &RecorderModel::aboutToStart, this, [this] {
             for (RecorderModel &other : m_recorders) {
-                if (recorder.isRecording() && &other != &recorder && other.isRecording()) {
-                    other.stop();
-                }
+                other.stop();
             }
         });
     }

@@ -120,14 +120,19 @@ TEST_F(SettingsTest, OpenAtLoginIsWhatTheDesktopSays)
     EXPECT_FALSE(model->launchesAtLogin());
 }
 
-TEST_F(SettingsTest, DisarmedShortcutsDoNothingUntilArmedAgain)
+TEST_F(SettingsTest, DisarmedShortcutsStayOffWhateverChangesUntilTheyAreRearmed)
 {
     start();
     model->disarmShortcuts();
+    fake.accessibility.trusted = false;
+    fake.clock.advance(2s);
+    model->setShortcut(Shortcut::combo(96, 0, u"F5"_s));
+    model->setGroupShortcut(Shortcut::combo(97, 0, u"F6"_s));
+    EXPECT_FALSE(model->isTrusted());
     EXPECT_EQ(fake.hotKeys.count(), 0U);
-    model->armShortcut();
-    model->armWindowShortcuts();
+    model->rearmShortcuts();
     EXPECT_EQ(fake.hotKeys.count(), 3U);
+    EXPECT_TRUE(fake.hotKeys.isRegistered(96, 0));
 }
 
 TEST_F(SettingsTest, TheHistoryShortcutHidesOnlyWhatTheUserLooksAt)

@@ -10,7 +10,7 @@ Column {
     property string shortcut: ""
     // What the shortcut is for.
     property string title: ""
-    readonly property bool isShown: Window.window !== null && Window.window.visible
+    readonly property bool isShown: visible && Window.window !== null && Window.window.visible
 
     onIsShownChanged: {
         if (!isShown)

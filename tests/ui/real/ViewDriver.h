@@ -24,7 +24,8 @@ public:
     QQuickItem *find(const char *type, const char *property = nullptr, const QVariant &value = {}) const
     {
         return find(m_view.contentItem(), [&](const QQuickItem &item) {
-            const bool isOfType = QByteArray(item.metaObject()->className()).startsWith(QByteArray(type) + '_');
+            const QByteArray name = item.metaObject()->className();
+            const bool isOfType = name == type || name.startsWith(QByteArray(type) + '_');
             return isOfType && (property == nullptr || item.property(property) == value);
         });
     }
@@ -53,6 +54,22 @@ public:
     void click(const QQuickItem *item) { QTest::mouseClick(&m_view, Qt::LeftButton, {}, centre(item)); }
 
     void press(int key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&m_view, Qt::Key(key), modifiers); }
+    /// What comes while a key that is down stays down.
+    void repeat(int key)
+    {
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, key, {}, QString(), true);
+            QCoreApplication::sendEvent(&m_view, &event);
+        }
+    }
+    void drag(QPoint from, QPoint to, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::mousePress(&m_view, Qt::LeftButton, modifiers, from);
+        for (int step = 1; step <= 8; ++step) {
+            QTest::mouseMove(&m_view, from + (to - from) * step / 8);
+        }
+        QTest::mouseRelease(&m_view, Qt::LeftButton, modifiers, to);
+    }
     void type(const QString &text)
     {
         for (const QChar c : text) {
