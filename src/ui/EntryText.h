@@ -5,7 +5,6 @@
 #include <QPointer>
 #include <QQuickTextDocument>
 #include <QString>
-#include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
 /// Fills the document of a text view with plain text set with extra space between its lines, which Qt Quick's
@@ -25,10 +24,6 @@ public:
     void setDocument(QQuickTextDocument *document);
     const QString &text() const { return m_text; }
     void setText(const QString &text);
-
-    /// A very long text in pieces that can be laid out one by one: its paragraphs, and these cut after a sentence
-    /// where they are long too. A text of ordinary length is one piece.
-    Q_INVOKABLE static QStringList pieces(const QString &text);
 
 Q_SIGNALS:
     void documentChanged();

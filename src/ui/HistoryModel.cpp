@@ -123,12 +123,13 @@ void HistoryModel::setLive(bool isLive)
     Q_EMIT isLiveChanged();
 }
 
-void HistoryModel::copy(int row)
+void HistoryModel::copy(const QString &id)
 {
-    const QString id = entry(row).id;
-    copyText(entry(row).text);
-    setCopied(id);
-    m_copiedReset = m_clock.after(3s, [this] { setCopied({}); });
+    if (const Transcription *copied = entry(id)) {
+        copyText(copied->text);
+        setCopied(id);
+        m_copiedReset = m_clock.after(3s, [this] { setCopied({}); });
+    }
 }
 
 void HistoryModel::copyText(const QString &text)
@@ -137,19 +138,25 @@ void HistoryModel::copyText(const QString &text)
     m_pasteboard.setString(text);
 }
 
-void HistoryModel::remove(int row)
+void HistoryModel::remove(const QString &id)
 {
-    m_store.remove(QString(entry(row).id)); // a copy: the entry goes
+    if (entry(id) != nullptr) {
+        m_store.remove(id);
+    }
 }
 
-void HistoryModel::move(int row, const QString &groupId)
+void HistoryModel::move(const QString &id, const QString &groupId)
 {
-    m_store.move(QString(entry(row).id), groupId.isEmpty() ? std::nullopt : std::optional(groupId));
+    m_store.move(id, groupId.isEmpty() ? std::nullopt : std::optional(groupId));
 }
 
-QVariantList HistoryModel::moveTargets(int row) const
+QVariantList HistoryModel::moveTargets(const QString &id) const
 {
-    const auto &current = entry(row).categoryId;
+    const Transcription *const moved = entry(id);
+    if (moved == nullptr) {
+        return {};
+    }
+    const auto &current = moved->categoryId;
     const auto target = [](const QString &name, const QString &groupId, bool isEnabled) {
         return QVariantMap{{u"name"_s, name}, {u"groupId"_s, groupId}, {u"isEnabled"_s, isEnabled}};
     };
@@ -170,6 +177,13 @@ const Transcription &HistoryModel::entry(int row) const
     return m_store.items().at(placeOf(row));
 }
 
+const Transcription *HistoryModel::entry(const QString &id) const
+{
+    const auto &items = m_store.items();
+    const auto found = std::ranges::find(items, id, &Transcription::id);
+    return found == items.end() ? nullptr : &*found;
+}
+
 uint32_t HistoryModel::serialOf(qsizetype place) const
 {
     return uint32_t(m_store.items().size() - 1 - place);
@@ -180,12 +194,18 @@ bool HistoryModel::isInGroup(const Transcription &entry) const
     return !m_groups.activeId() || entry.categoryId == m_groups.activeId();
 }
 
+std::optional<QString> HistoryModel::groupName(const Transcription &entry) const
+{
+    // The name of the active group would only repeat the selection.
+    const auto group = m_groups.activeId() || !entry.categoryId ? std::nullopt : m_groups.group(entry.categoryId);
+    return group ? std::optional(group->name) : std::nullopt;
+}
+
 QString HistoryModel::meta(const Transcription &entry) const
 {
     const QString age = EntryDate::relativeTime(EntryDate::parse(entry.timestamp), m_clock.now());
-    // The name of the active group would only repeat the selection.
-    const auto group = m_groups.activeId() || !entry.categoryId ? std::nullopt : m_groups.group(entry.categoryId);
-    return group ? age + u" · "_s + group->name : age;
+    const auto name = groupName(entry);
+    return name ? age + u" · "_s + *name : age;
 }
 
 void HistoryModel::onAdded()

@@ -50,15 +50,16 @@ public:
     bool isLive() const { return m_minute != nullptr; }
     void setLive(bool isLive);
 
-    /// Puts the row's text on the pasteboard and marks the row as copied for 3 seconds; the newest copy has the mark.
-    Q_INVOKABLE void copy(int row);
+    // An entry is named by its id, because rows move while a menu is open. An unknown id changes nothing.
+    /// Puts the text on the pasteboard and marks the entry as copied for 3 seconds; the newest copy has the mark.
+    Q_INVOKABLE void copy(const QString &id);
     /// Puts a part of a text on the pasteboard.
     Q_INVOKABLE void copyText(const QString &text);
-    Q_INVOKABLE void remove(int row);
+    Q_INVOKABLE void remove(const QString &id);
     /// Files the entry under a group; under none when `groupId` is empty.
-    Q_INVOKABLE void move(int row, const QString &groupId);
-    /// What "Move to Group" offers for a row, as objects with `name`, `groupId` and `isEnabled`.
-    Q_INVOKABLE QVariantList moveTargets(int row) const;
+    Q_INVOKABLE void move(const QString &id, const QString &groupId);
+    /// What "Move to Group" offers for an entry, as objects with `name`, `groupId` and `isEnabled`.
+    Q_INVOKABLE QVariantList moveTargets(const QString &id) const;
 
 Q_SIGNALS:
     void searchChanged();
@@ -74,8 +75,12 @@ private:
     /// The row's place in the store.
     qsizetype placeOf(int row) const;
     const Transcription &entry(int row) const;
+    /// Null when the entry is gone.
+    const Transcription *entry(const QString &id) const;
     uint32_t serialOf(qsizetype place) const;
     bool isInGroup(const Transcription &entry) const;
+    /// The name of the entry's group, where the row is to tell it.
+    std::optional<QString> groupName(const Transcription &entry) const;
     QString meta(const Transcription &entry) const;
     void onAdded();
     void onChanged(qsizetype place);

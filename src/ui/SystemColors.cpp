@@ -88,7 +88,7 @@ QColor SystemColors::orange() const
 
 QColor SystemColors::green() const
 {
-    return isDark() ? QColor(0x32, 0xd1, 0x5a) : QColor(0x1d, 0x7a, 0x34);
+    return isDark() ? QColor(0x30, 0xd1, 0x58) : QColor(0x1d, 0x7a, 0x34);
 }
 
 QColor SystemColors::red() const

@@ -46,7 +46,7 @@ public:
     QColor control() const;
     QColor controlBorder() const;
     QColor separator() const;
-    /// Warnings.
+    /// Warnings. The symbols for them and for what is allowed come in the same two colours.
     QColor orange() const;
     /// What is allowed.
     QColor green() const;

@@ -2,6 +2,8 @@
 #include "AppModelFixture.h"
 
 #include "app/MenuBarExtra.h"
+#include "ui/GroupCarouselModel.h"
+#include "ui/GroupEditorModel.h"
 
 #include <algorithm>
 
@@ -107,6 +109,10 @@ TEST_F(MenuTest, GroupsAreChosenCycledAndNamedBesideTheSymbol)
     EXPECT_EQ(lines(groups()),
               (QStringList{u"✓ All entries"_s, u"Work"_s, longName, u"---"_s, u"Next Group"_s, u"Edit Groups…"_s}));
     EXPECT_EQ(item(u"Next"_s, groups()).shortcut, (MenuShortcut{u"g"_s, controlOption}));
+    const GroupCarouselModel chips(model->groups());
+    GroupEditorModel(model->groups()).rename(0, u"Workshop"_s);
+    EXPECT_EQ(lines(groups()).at(1), u"Workshop"_s);
+    EXPECT_EQ(chips.index(1).data(GroupCarouselModel::NameRole), u"Workshop"_s);
     item(longName, groups()).action();
     EXPECT_EQ(model->groups().activeId(), id);
     EXPECT_EQ(item(u"Group"_s, menu()).title, u"Group: "_s + longName);

@@ -97,11 +97,11 @@ void takeHistory()
     model->setProperty("search", u"zebra"_s);
     save(view, u"history-no-matches"_s);
     model->setProperty("search", QString());
-    QMetaObject::invokeMethod(model, "copy", Q_ARG(int, 0));
     windows.model.insert(u"state"_s, u"recording"_s);
     windows.model.insert(u"statusText"_s, u"Listening… (Esc to cancel)"_s);
     windows.groups.setActiveId(windows.groups.groups().first().id);
-    QMetaObject::invokeMethod(model, "copy", Q_ARG(int, 0));
+    const QString copied = windows.store.items(windows.groups.activeId()).first().id;
+    QMetaObject::invokeMethod(model, "copy", Q_ARG(QString, copied));
     save(view, u"history-group-recording"_s);
     windows.groups.setActiveId(windows.groups.groups().last().id);
     windows.model.insert(u"state"_s, u"transcribing"_s);

@@ -6,9 +6,10 @@
 #include "support/Await.h"
 #include "support/Printing.h"
 #include "ui/EntryDate.h"
-#include "ui/EntryText.h"
+#include "ui/TextPieces.h"
 
 #include <QAbstractItemModelTester>
+#include <QTextLayout>
 
 #include <gtest/gtest.h>
 #include <random>
@@ -21,6 +22,8 @@ namespace {
 class HistoryModelTest : public ::testing::Test {
 protected:
     QVariant at(int row, HistoryModel::Role role) const { return model.data(model.index(row), role); }
+
+    QString idAt(int row) const { return at(row, HistoryModel::EntryIdRole).toString(); }
 
     QStringList texts() const
     {
@@ -79,19 +82,41 @@ TEST(EntryDateTest, ReadsDatesWithAZoneAndTakesTheRestForTheDistantPast)
     }
 }
 
-TEST(EntryTextTest, CutsOnlyLongTextsAndOnlyBetweenSentencesOrWords)
+TEST(TextPiecesTest, CutsWhereTheWholeTextBreaksItsLines)
 {
-    EXPECT_EQ(EntryText::pieces(u"one\ntwo"_s), QStringList{u"one\ntwo"_s});
-    const QString sentence = u"This is a sentence of nine words, no more. "_s;
-    const QStringList pieces = EntryText::pieces(sentence.repeated(2200) + u"\nEnd"_s); // 20,000 words
-    EXPECT_GT(pieces.size(), 20);
-    for (const QString &piece : pieces) {
-        EXPECT_LE(piece.size(), 4000);
-        EXPECT_TRUE(piece.endsWith(u'.') || piece == u"End"_s);
-    }
-    EXPECT_EQ(pieces.join(u' '), sentence.repeated(2200) + u"End"_s);
-    for (const QString &piece : EntryText::pieces(u"word "_s.repeated(2000))) {
-        EXPECT_LE(piece.size(), 4000);
+    const QString text = u"This is a sentence of nine words, no more. "_s.repeated(2200) + u"\n\nEnd "_s +
+                         QString(2000, u'x') + u"\nlast\n"_s;
+    TextPieces pieces;
+    pieces.setProperty("font", QFont(u"Liberation Sans"_s));
+    static_cast<QQmlParserStatus &>(pieces).componentComplete();
+    pieces.setText(text);
+    bool isReplaced = true;
+    QObject::connect(&pieces, &TextPieces::dataChanged, &pieces, [&] { isReplaced = true; });
+    for (const qreal width : {352.0, 520.0}) {
+        isReplaced = pieces.rowCount() == 0;
+        pieces.setWidth(width);
+        ASSERT_TRUE(await([&] { return isReplaced && pieces.restHeight() == 0; }));
+
+        QTextLayout layout(QString(text).replace(u'\n', QChar::LineSeparator), QFont(u"Liberation Sans"_s));
+        QTextOption option;
+        option.setUseDesignMetrics(true);
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        layout.setTextOption(option);
+        QSet<qsizetype> lineStarts;
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(width);
+            lineStarts.insert(line.textStart());
+        }
+        QString joined;
+        for (int row = 0; row < pieces.rowCount(); ++row) {
+            const QModelIndex piece = pieces.index(row);
+            const auto start = piece.data(TextPieces::StartRole).toLongLong();
+            EXPECT_TRUE(lineStarts.contains(start)) << start;
+            joined += QString(start - joined.size(), u'\n') + piece.data(TextPieces::ContentRole).toString();
+            EXPECT_LE(joined.size() - start, 1000);
+        }
+        EXPECT_EQ(joined, text);
     }
 }
 
@@ -132,7 +157,7 @@ TEST_F(HistoryModelTest, ShowsTheActiveGroupAndCountsIt)
     EXPECT_EQ(texts(), QStringList{u"a"_s});
     EXPECT_EQ(model.countText(), u"1 entry"_s);
     EXPECT_EQ(at(0, HistoryModel::MetaRole), u"just now"_s);
-    model.move(0, {});
+    model.move(idAt(0), {});
     EXPECT_TRUE(model.isEmpty());
 }
 
@@ -143,14 +168,14 @@ TEST_F(HistoryModelTest, OffersEveryOtherGroupToMoveTo)
     store.add(u"a"_s, std::nullopt);
     const auto offered = [&] {
         QStringList targets;
-        for (const QVariant &target : model.moveTargets(0)) {
+        for (const QVariant &target : model.moveTargets(idAt(0))) {
             const auto map = target.toMap();
             targets.append(map[u"name"_s].toString() + (map[u"isEnabled"_s].toBool() ? u"+"_s : u"-"_s));
         }
         return targets;
     };
     EXPECT_EQ(offered(), QStringList({u"All entries-"_s, u"Work+"_s, u"+"_s}));
-    model.move(0, work);
+    model.move(idAt(0), work);
     EXPECT_EQ(offered(), QStringList({u"All entries+"_s, u"Work-"_s, u"+"_s}));
 }
 
@@ -161,16 +186,30 @@ TEST_F(HistoryModelTest, MarksTheNewestCopyForThreeSeconds)
     const auto marks = [&] {
         return std::pair(at(0, HistoryModel::IsCopiedRole).toBool(), at(1, HistoryModel::IsCopiedRole).toBool());
     };
-    model.copy(0);
+    model.copy(idAt(0));
     EXPECT_EQ(fake.pasteboard.string(), u"newer"_s);
     EXPECT_EQ(marks(), std::pair(true, false));
     fake.clock.advance(2s);
-    model.copy(1);
+    model.copy(idAt(1));
     EXPECT_EQ(marks(), std::pair(false, true));
     fake.clock.advance(2999ms);
     EXPECT_EQ(marks(), std::pair(false, true));
     fake.clock.advance(1ms);
     EXPECT_EQ(marks(), std::pair(false, false));
+}
+
+TEST_F(HistoryModelTest, AnEntryThatIsGoneIsLeftAlone)
+{
+    store.add(u"gone"_s, std::nullopt);
+    const QString id = idAt(0);
+    store.add(u"stays"_s, std::nullopt);
+    model.remove(id);
+    model.remove(id);
+    model.copy(id);
+    model.move(id, groups.add(u"Work"_s).id);
+    EXPECT_TRUE(model.moveTargets(id).isEmpty());
+    EXPECT_EQ(texts(), QStringList{u"stays"_s});
+    EXPECT_EQ(fake.pasteboard.string(), QString());
 }
 
 TEST_F(HistoryModelTest, AgesMoveOnTheMinuteWhileTheWindowIsOpen)

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "ui/Paper.h"
+#include "ui/InterfaceFont.h"
 
 #include "support/Printing.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFontInfo>
+#include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -59,4 +62,15 @@ TEST(PaperTest, TheDisplayFaceIsThereOnceItsFileIsRegistered)
     write(folder.filePath(u"Fonts/face.ttf"_s), renamedFont());
     Paper::registerFonts(folder.path());
     EXPECT_TRUE(Paper::hasFraunces());
+}
+
+TEST(InterfaceFontTest, FiguresAreEquallyWideWhateverTheInterfaceFontHas)
+{
+    const QFont before = QGuiApplication::font();
+    for (const QString &family : {before.family(), u"Vollkorn"_s}) {
+        QGuiApplication::setFont(QFont(family));
+        const QFontMetricsF metrics(InterfaceFont::figures(13));
+        EXPECT_EQ(metrics.horizontalAdvance(u"1111"_s), metrics.horizontalAdvance(u"0000"_s)) << family.toStdString();
+    }
+    QGuiApplication::setFont(before);
 }

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
-import QtQuick.Templates as T
 import Quillo
 
 // The button that copies an entry, and says so for a while.
-T.Button {
+KeyButton {
     id: pill
 
     property bool isCopied: false
@@ -20,13 +19,6 @@ T.Button {
     font: Paper.sansMedium(10, 1.5)
     opacity: down ? 0.7 : 1
     Accessible.name: isCopied ? "Copied" : "Copy"
-
-    Accessible.onPressAction: {
-        if (enabled)
-            clicked();
-    }
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
 
     Behavior on ink { ColorAnimation { duration: 300; easing.type: Easing.InOutQuad } }
 

@@ -57,15 +57,18 @@ Rectangle {
     }
 
     // The default and the cancel button, wherever the focus is. A button or link that has it takes the key itself.
-    Keys.onReturnPressed: answer(true)
-    Keys.onEnterPressed: answer(true)
+    // A key held down since before the window came agrees to nothing.
+    Keys.onReturnPressed: event => answer(true, event.isAutoRepeat)
+    Keys.onEnterPressed: event => answer(true, event.isAutoRepeat)
     Keys.onEscapePressed: event => {
         event.accepted = !view.showsAgreement;
         if (event.accepted)
             model.keep(false);
     }
 
-    function answer(isYes) {
+    function answer(isYes, isAutoRepeat) {
+        if (isAutoRepeat)
+            return;
         if (!isYes || view.showsAgreement)
             model.keep(isYes);
         else
@@ -146,7 +149,7 @@ Rectangle {
                 anchors.right: parent.right
                 text: view.showsAgreement ? "Keep it on" : "I agree — send to OpenAI"
                 isDefault: true
-                onClicked: view.answer(true)
+                onClicked: view.answer(true, false)
             }
         }
 

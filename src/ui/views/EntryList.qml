@@ -49,7 +49,9 @@ Item {
 
         delegate: EntryRow {
             width: list.width
-            onCopy: list.copy(index)
+            required property int index
+
+            onCopy: entries.history.copy(entryId)
             onPressed: list.take(index)
             onMenuRequested: position => list.openMenu(this, position)
         }
@@ -57,9 +59,11 @@ Item {
         Keys.onPressed: event => {
             event.accepted = true;
             if (event.matches(StandardKey.Copy))
-                copy(currentIndex);
+                copy(currentItem as EntryRow);
+            else if (event.matches(StandardKey.SelectAll))
+                (currentItem as EntryRow)?.selectAll();
             else if (event.key === Qt.Key_Delete)
-                remove(currentIndex);
+                remove(currentItem as EntryRow, event.isAutoRepeat);
             else if (event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier))
                 openMenu(currentItem, Qt.point(80, 40));
             else if (event.key === Qt.Key_Home)
@@ -75,15 +79,15 @@ Item {
         }
 
         function copy(row) {
-            const item = itemAtIndex(row) as EntryRow;
-            if (item !== null && item.selectedText !== "")
-                entries.history.copyText(item.selectedText);
-            else if (row >= 0)
-                entries.history.copy(row);
+            if (row !== null && row.selectedText !== "")
+                entries.history.copyText(row.selectedText);
+            else if (row !== null)
+                entries.history.copy(row.entryId);
         }
-        function remove(row) {
-            if (row >= 0)
-                entries.history.remove(row);
+        // A key held down deletes one entry, not those that move up to its place.
+        function remove(row, isAutoRepeat) {
+            if (row !== null && !isAutoRepeat)
+                entries.history.remove(row.entryId);
         }
         function take(row) {
             currentIndex = row;

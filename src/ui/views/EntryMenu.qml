@@ -6,15 +6,20 @@ import Quillo
 
 // The context menu of an entry.
 PaperMenu {
-    id: menu
+    id: entryMenu // an item of a menu calls its own menu `menu`
 
     required property HistoryModel history
-    property int row: -1
+    // The entry, whatever row it has by the time of the choice.
+    property string entryId: ""
     property var targets: []
+    property Item focusBefore: null
+
+    onAboutToShow: focusBefore = parent.Window.activeFocusItem
+    onClosed: focusBefore?.forceActiveFocus(Qt.PopupFocusReason)
 
     function openFor(item, position) {
-        row = item.index;
-        targets = history.moveTargets(row);
+        entryId = item.entryId;
+        targets = history.moveTargets(entryId);
         const place = item.mapToItem(null, position.x, position.y);
         parent = item.Window.contentItem;
         popup(parent, place.x, place.y);
@@ -22,7 +27,7 @@ PaperMenu {
 
     PaperMenuItem {
         text: "Copy"
-        onTriggered: menu.history.copy(menu.row)
+        onTriggered: entryMenu.history.copy(entryMenu.entryId)
     }
     PaperMenu {
         id: moveMenu
@@ -30,7 +35,7 @@ PaperMenu {
         title: "Move to Group"
 
         Instantiator {
-            model: menu.targets
+            model: entryMenu.targets
             onObjectAdded: (index, object) => moveMenu.insertItem(index, object as PaperMenuItem)
             onObjectRemoved: (index, object) => moveMenu.removeItem(object as PaperMenuItem)
 
@@ -39,7 +44,7 @@ PaperMenu {
 
                 text: modelData.name
                 enabled: modelData.isEnabled
-                onTriggered: menu.history.move(menu.row, modelData.groupId)
+                onTriggered: entryMenu.history.move(entryMenu.entryId, modelData.groupId)
             }
         }
     }
@@ -51,6 +56,6 @@ PaperMenu {
     PaperMenuItem {
         text: "Delete"
         isDestructive: true
-        onTriggered: menu.history.remove(menu.row)
+        onTriggered: entryMenu.history.remove(entryMenu.entryId)
     }
 }

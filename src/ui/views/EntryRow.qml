@@ -6,7 +6,7 @@ import Quillo
 FocusScope {
     id: row
 
-    required property int index
+    required property string entryId
     required property string text
     required property int day
     required property int month
@@ -16,11 +16,18 @@ FocusScope {
     readonly property bool isCurrent: ListView.isCurrentItem
     readonly property ListView list: ListView.view
     readonly property string selectedText: content.item !== null ? content.item.selectedText : ""
+    // A text up to this length is laid out at once.
     readonly property bool isLong: text.length > 4000
 
     signal copy
     signal menuRequested(point position)
     signal pressed
+
+    onEntryIdChanged: content.item?.deselect()
+
+    function selectAll() {
+        content.item.selectAll();
+    }
 
     height: content.y + content.height + 10 + pill.height + 18
 
@@ -66,13 +73,12 @@ FocusScope {
         id: longText
 
         LongEntryText {
-            pieces: pieceMaker.pieces(row.text)
+            text: row.text
             onPressed: row.pressed()
             visibleTop: row.list.contentY - row.y - content.y
             visibleBottom: visibleTop + row.list.height
         }
     }
-    EntryText { id: pieceMaker }
 
     MetaLabel {
         anchors { left: content.left; right: pill.left; rightMargin: 8; verticalCenter: pill.verticalCenter }

@@ -25,7 +25,7 @@ Item {
         visible: row.isWarning
         anchors { left: parent.left; leftMargin: 10; verticalCenter: parent.verticalCenter }
         sourceSize: Qt.size(14, 14)
-        source: "symbols/exclamationmark.triangle.fill.svg"
+        source: SystemColors.isDark ? "symbols/exclamationmark.triangle.fill.svg" : "symbols/exclamationmark.triangle.fill.light.svg"
     }
     Note {
         id: label

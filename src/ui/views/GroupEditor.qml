@@ -25,11 +25,14 @@ T.Popup {
         focusBefore = parent.Window.activeFocusItem;
     }
     onClosed: {
-        historyWindow.isEditingGroups = false;
+        dismiss();
         focusBefore?.forceActiveFocus(Qt.PopupFocusReason);
     }
     Component.onCompleted: follow()
 
+    function dismiss() {
+        historyWindow.isEditingGroups = false;
+    }
     function follow() {
         if (historyWindow.isEditingGroups)
             open();
@@ -115,7 +118,7 @@ T.Popup {
 
             anchors { right: parent.right; bottom: parent.bottom }
             text: "Done"
-            onClicked: sheet.close()
+            onClicked: sheet.dismiss()
         }
     }
 }

@@ -17,12 +17,19 @@ Rectangle {
         id: list
 
         readonly property int rowHeight: 30
-        // Where a dragged row would go: before this one. Less than zero while nothing is dragged.
-        property int dropIndex: -1
+        property bool isDragging: false
+        // Where the pointer has a dragged row, from the top of the list.
+        property real pointerY: 0
+        // Where the dragged row would go: before this one. Less than zero while nothing is dragged.
+        readonly property int dropIndex: isDragging ? Math.max(0, Math.min(count, Math.round((contentY + pointerY) / rowHeight))) : -1
+        // What a row dragged to an edge pulls the list along, in points a step.
+        readonly property int pull: !isDragging ? 0 : pointerY < rowHeight ? -6 : pointerY > height - rowHeight ? 6 : 0
 
         anchors { fill: parent; margins: 1 }
         clip: true
         model: frame.groups
+        // Every row exists, in order, so that Tab goes from one to the next.
+        cacheBuffer: count * rowHeight
         boundsBehavior: Flickable.StopAtBounds
         Accessible.role: Accessible.List
         Accessible.name: "Groups"
@@ -34,14 +41,18 @@ Rectangle {
             height: list.rowHeight
             onRename: name => frame.groups.rename(index, name)
             onRemove: frame.groups.remove(index)
-            onDragged: distance => list.dropIndex = Math.max(0, Math.min(list.count, index + (distance > 0 ? 1 : 0) + Math.round(distance / list.rowHeight)))
+            onReached: list.positionViewAtIndex(index, ListView.Contain)
+            onDragged: sceneY => {
+                list.pointerY = list.mapFromItem(null, 0, sceneY).y;
+                list.isDragging = true;
+            }
             onDropped: list.drop(index)
             onMoveBy: step => list.moveBy(index, step)
         }
 
         function drop(row) {
             const destination = dropIndex;
-            dropIndex = -1;
+            isDragging = false;
             if (destination >= 0)
                 frame.groups.move(row, destination);
         }
@@ -50,7 +61,21 @@ Rectangle {
             if (place < 0 || place >= count)
                 return;
             frame.groups.move(row, step > 0 ? place + 1 : place);
-            (itemAtIndex(place) as GroupRow).takeFocus();
+            positionViewAtIndex(place, ListView.Contain);
+            (itemAtIndex(place) as GroupRow)?.takeFocus();
+        }
+
+        Timer {
+            interval: 16
+            repeat: true
+            running: list.pull !== 0
+            onTriggered: list.contentY = Math.max(0, Math.min(list.contentHeight - list.height, list.contentY + list.pull))
+        }
+        Connections {
+            target: frame.groups
+            function onRowsInserted(parent, first, last) {
+                Qt.callLater(list.positionViewAtIndex, last, ListView.Contain);
+            }
         }
 
         Rectangle {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
-import QtQuick.Templates as T
 import Quillo
 
 // One group of the editor.
@@ -12,8 +11,10 @@ Rectangle {
 
     signal rename(string name)
     signal remove
-    // Pulled up or down by so many points, and let go.
-    signal dragged(real distance)
+    // It has got the keyboard focus.
+    signal reached
+    // Pulled up or down by the pointer, which is there in the window, and let go.
+    signal dragged(real sceneY)
     signal dropped
     signal moveBy(int step)
 
@@ -54,7 +55,7 @@ Rectangle {
             xAxis.enabled: false
             onActiveTranslationChanged: {
                 if (active)
-                    row.dragged(activeTranslation.y);
+                    row.dragged(centroid.scenePosition.y);
             }
             onActiveChanged: {
                 if (!active)
@@ -68,6 +69,10 @@ Rectangle {
         anchors { left: grip.right; leftMargin: 2; right: trash.left; verticalCenter: parent.verticalCenter }
         placeholderText: "Name"
         Component.onCompleted: row.show()
+        onActiveFocusChanged: {
+            if (activeFocus)
+                row.reached();
+        }
         onTextEdited: row.rename(text)
         Accessible.name: "Name of the group"
         Keys.onPressed: event => {
@@ -76,7 +81,7 @@ Rectangle {
                 row.moveBy(event.key === Qt.Key_Up ? -1 : 1);
         }
     }
-    T.Button {
+    KeyButton {
         id: trash
 
         anchors { right: parent.right; rightMargin: 8; verticalCenter: parent.verticalCenter }
@@ -85,12 +90,11 @@ Rectangle {
         focusPolicy: Qt.StrongFocus
         opacity: down ? 0.5 : 1
         onClicked: row.remove()
-        Keys.onReturnPressed: clicked()
+        onActiveFocusChanged: {
+            if (activeFocus)
+                row.reached();
+        }
         Accessible.name: "Delete group"
-        Accessible.onPressAction: {
-        if (enabled)
-            clicked();
-    }
         Accessible.description: row.name
 
         contentItem: Image {

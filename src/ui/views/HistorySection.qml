@@ -8,6 +8,11 @@ FormSection {
 
     required property SettingsModel settings
 
+    // The question whether to delete everything is on screen.
+    property bool confirmClear: false
+
+    onConfirmClearChanged: confirmClear ? confirmation.open() : confirmation.close()
+
     title: "History"
 
     FormRow {
@@ -17,7 +22,7 @@ FormSection {
         PushButton {
             text: "Clear…"
             enabled: section.settings.transcriptCount > 0
-            onClicked: confirmation.open()
+            onClicked: section.confirmClear = true
         }
         Confirmation {
             id: confirmation
@@ -25,6 +30,7 @@ FormSection {
             title: "Delete all " + section.settings.transcriptCount + " transcripts?"
             message: "They're stored only on this Mac, so this can't be undone."
             action: "Delete All"
+            onClosed: section.confirmClear = false
             onConfirmed: section.settings.clearHistory()
         }
     }

@@ -14,7 +14,7 @@ FormRow {
         visible: row.isGranted
         anchors.verticalCenter: parent.verticalCenter
         sourceSize: Qt.size(15, 15)
-        source: "symbols/checkmark.circle.fill.svg"
+        source: SystemColors.isDark ? "symbols/checkmark.circle.fill.svg" : "symbols/checkmark.circle.fill.light.svg"
     }
     Value {
         visible: row.isGranted

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
-import QtQuick.Templates as T
 import Quillo
 
 // A filled capsule with a small label.
-T.Button {
+KeyButton {
     id: button
 
     leftPadding: 10
@@ -16,13 +15,6 @@ T.Button {
     focusPolicy: Qt.StrongFocus
     opacity: down ? 0.7 : 1
     font: Paper.sansMedium(11)
-
-    Accessible.onPressAction: {
-        if (enabled)
-            clicked();
-    }
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
 
     contentItem: Text {
         text: button.text

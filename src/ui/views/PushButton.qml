@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
-import QtQuick.Templates as T
 import Quillo
 
 // A bordered button in the desktop's colours. Space presses it while it has the focus, and Return too.
-T.Button {
+KeyButton {
     id: button
 
     property bool isDefault: false
@@ -25,13 +24,6 @@ T.Button {
     focusPolicy: Qt.StrongFocus
     opacity: enabled ? 1 : 0.45
     font.pixelSize: 13
-
-    Accessible.onPressAction: {
-        if (enabled)
-            clicked();
-    }
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
 
     contentItem: Text {
         text: button.text

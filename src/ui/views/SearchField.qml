@@ -15,7 +15,7 @@ Item {
     Item {
         anchors { fill: parent; leftMargin: 24; rightMargin: 24; topMargin: 16; bottomMargin: 4 }
 
-        FocusRing { visible: field.activeFocus; anchors.margins: -2; corner: 3; ringColor: Paper.divider }
+        FocusRing { visible: field.activeFocus; anchors.margins: -2; corner: 3; ringColor: Paper.accent }
 
         Image {
             id: symbol
@@ -46,7 +46,7 @@ Item {
                 color: field.placeholderTextColor
             }
         }
-        T.Button {
+        KeyButton {
             id: clear
 
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
@@ -57,10 +57,6 @@ Item {
             visible: opacity > 0
             focusPolicy: Qt.TabFocus
             Accessible.name: "Clear search"
-            Accessible.onPressAction: {
-        if (enabled)
-            clicked();
-    }
             onClicked: {
                 field.clear();
                 field.forceActiveFocus();

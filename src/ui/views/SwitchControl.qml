@@ -10,7 +10,10 @@ T.Switch {
     implicitWidth: 38
     implicitHeight: 22
     focusPolicy: Qt.StrongFocus
-    Keys.onReturnPressed: flip()
+    Keys.onReturnPressed: event => {
+        if (!event.isAutoRepeat)
+            flip();
+    }
     Accessible.onPressAction: flip()
     Accessible.onToggleAction: flip()
 
