@@ -5,6 +5,7 @@
 #include "ui/HUDModel.h"
 #include "ui/ViewWindow.h"
 
+#include <QAccessible>
 #include <QQuickItem>
 #include <QQuickView>
 
@@ -33,6 +34,20 @@ private:
     StatusPanel &m_panel;
 };
 
+/// Tells a screen reader of each phase that comes on screen. The panel never has the focus, so a change of its name
+/// alone is passed over; a notification that appears is read, and the same one again when it appears again.
+void announce(QQuickView &window, HUDModel &model)
+{
+    const auto tell = [&window] {
+        if (window.isVisible()) {
+            QAccessibleEvent event(window.rootObject(), QAccessible::ObjectShow);
+            QAccessible::updateAccessibility(&event);
+        }
+    };
+    QObject::connect(&window, &QWindow::visibleChanged, &window, tell);
+    QObject::connect(&model, &HUDModel::phaseChanged, &window, tell);
+}
+
 } // namespace
 
 std::unique_ptr<StatusPanel> makeHUDPanel(QQmlEngine &engine, StatusPanels &panels, HUDModel &model)
@@ -41,6 +56,7 @@ std::unique_ptr<StatusPanel> makeHUDPanel(QQmlEngine &engine, StatusPanels &pane
     window->setColor(Qt::transparent);
     window->setResizeMode(QQuickView::SizeRootObjectToView);
     window->resize(panelSize);
+    announce(*window, model);
     QQuickItem *view = window->rootObject();
     auto panel = panels.adopt(std::move(window));
     new OutlineFollower(*view, *panel); // owned by the view, which the panel owns

@@ -19,7 +19,6 @@ Item {
     readonly property string family: "Liberation Sans"
     readonly property bool isProblem: isOutOfTokens || model.isError
 
-    // A screen reader tells of each change of the name when it has finished what it is saying.
     Accessible.role: Accessible.Notification
     Accessible.name: phaseText() + (isGroup ? model.text : "")
 

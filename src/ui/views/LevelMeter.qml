@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
+import Quillo
 
 // A row of bars that rise with the microphone's level.
 Row {
