@@ -186,7 +186,7 @@ net::awaitable<void> Connection::serve(RequestParser &parser, AccessRecord &reco
     record.delivered = !m_abandoned && co_await write(reply, parser);
     co_await tellSent(reply, record.delivered);
     if (refusal) {
-        co_await discardBody(parser);
+        co_await discardBody(parser, record.received);
     }
 }
 
@@ -284,13 +284,13 @@ net::awaitable<void> Connection::tellSent(Reply &reply, bool delivered)
     }
 }
 
-/// What follows a refusal. Some clients look for the reply only when they have sent all, and take a connection that
-/// closes before for a failure.
-net::awaitable<void> Connection::discardBody(const RequestParser &parser)
+/// The rest of a body that was refused, of which some was received. Some clients look for the reply only when they have
+/// sent all, and take a connection that closes before for a failure.
+net::awaitable<void> Connection::discardBody(const RequestParser &parser, size_t received)
 {
-    if (parser.is_header_done()) {
-        const auto length = parser.content_length_remaining().value_or(0);
-        const auto left = length - std::min<uint64_t>(length, m_buffer.size());
+    if (parser.is_header_done() && parser.content_length()) {
+        const uint64_t length = *parser.content_length();
+        const auto left = length - std::min<uint64_t>(length, received + m_buffer.size());
         m_buffer.clear();
         co_await discard(std::min<uint64_t>(left, mostDiscarded), m_options.body);
     }

@@ -36,7 +36,7 @@ private:
     net::awaitable<void> allowBody(const RequestParser &parser);
     net::awaitable<bool> write(Reply &reply, const RequestParser &parser);
     net::awaitable<void> tellSent(Reply &reply, bool delivered);
-    net::awaitable<void> discardBody(const RequestParser &parser);
+    net::awaitable<void> discardBody(const RequestParser &parser, size_t received);
     net::awaitable<void> discard(size_t bytes, std::chrono::milliseconds time);
     net::awaitable<void> close();
     bool isConnected();
