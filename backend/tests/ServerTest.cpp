@@ -27,6 +27,7 @@ public:
             turn.emplace(co_await net::this_coro::executor, net::steady_timer::time_point::max());
             boost::system::error_code cancelled;
             co_await turn->async_wait(net::redirect_error(net::use_awaitable, cancelled));
+            turn.reset(); // before the server's io_context goes
         }
         Reply reply;
         reply.body = body;
