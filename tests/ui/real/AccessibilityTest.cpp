@@ -81,6 +81,12 @@ TEST_F(AccessibilityTest, AScreenReaderReadsAndOperatesTheWindows)
     EXPECT_TRUE(await([this] { return read(u"groups.json"_s).contains("Errands"); }));
     reader({u"press"_s, u"push button"_s, u"Done"_s});
 
+    // The panel appears, and then changes while it is there.
+    for (const QString &notice : {u"Dictating into All entries"_s, u"Dictating into Work"_s}) {
+        EXPECT_EQ(reader({u"hear"_s, u"notification"_s, notice, QStringLiteral(QUILLO_PROGRAM), u"next-group"_s}),
+                  u"notification: "_s + notice);
+    }
+
     ASSERT_EQ(tell(u"settings"_s), 0);
     for (const auto &[role, name] :
          {std::pair(u"radio button"_s, u"Key combination"_s), std::pair(u"push button"_s, u"Shortcut, *"_s),

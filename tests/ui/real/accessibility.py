@@ -5,8 +5,10 @@
 usage: accessibility.py find ROLE NAME          waits for it and prints its role, name and states
        accessibility.py press ROLE NAME         presses it
        accessibility.py focus ROLE NAME         gives it the keyboard focus
+       accessibility.py hear ROLE NAME COMMAND  runs the command, every two seconds, until it is told that this shows
 A NAME that ends in "*" is the beginning of a name. Exit status 1: not there within ten seconds."""
 
+import subprocess
 import sys
 import time
 import warnings
@@ -28,10 +30,14 @@ def descendants(node):
             yield from descendants(child)
 
 
-def matches(node, role, name):
+def is_called(node, role, name):
     own = node.get_name() or ""
     fits = own.startswith(name[:-1]) if name.endswith("*") else own == name
-    return fits and node.get_role_name() == role and node.get_state_set().contains(Atspi.StateType.SHOWING)
+    return fits and node.get_role_name() == role
+
+
+def matches(node, role, name):
+    return is_called(node, role, name) and node.get_state_set().contains(Atspi.StateType.SHOWING)
 
 
 def find(role, name):
@@ -48,10 +54,30 @@ def find(role, name):
     sys.exit(f"there is no {role} {name!r} among:\n" + "\n".join(seen))
 
 
+def hear(role, name, command):
+    def take(event):
+        if event.detail1 == 1 and is_called(event.source, role, name):
+            print(f"{role}: {event.source.get_name()}")
+            Atspi.event_quit()
+
+    # A program tells only from the time on when it has heard that somebody listens. Changes of names keep those that
+    # are known here up to date.
+    listener = Atspi.EventListener.new(take)
+    listener.register("object:property-change:accessible-name")
+    listener.register("object:state-changed:showing")
+    run = lambda: subprocess.Popen(command) is not None
+    run()
+    GLib.timeout_add_seconds(2, run)
+    GLib.timeout_add_seconds(10, Atspi.event_quit)
+    Atspi.event_main()
+
+
 def main():
     warnings.simplefilter("ignore")  # old and new names of the same calls
     Atspi.init()
     command, role, name = sys.argv[1:4]
+    if command == "hear":
+        return hear(role, name, sys.argv[4:])
     node = find(role, name)
     if command in ACTIONS:
         action = node.get_action_iface()
