@@ -18,6 +18,7 @@ T.Popup {
     parent: T.Overlay.overlay
     anchors.centerIn: parent
     width: 300
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
     padding: 20
     modal: true
     focus: true

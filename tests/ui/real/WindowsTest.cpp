@@ -17,6 +17,8 @@ TEST_F(WindowsTest, ClearingTheHistoryAsksFirst)
     driver.find("PushButton", "text", u"Clear…"_s)->forceActiveFocus(Qt::TabFocusReason);
     driver.click(driver.find("PushButton", "text", u"Clear…"_s));
     ASSERT_TRUE(await(asks));
+    const QQuickItem *const dialog = driver.find("QQuickPopupItem"); // its ground lies below all of it
+    EXPECT_TRUE(dialog->contains(dialog->mapFromScene(driver.centre(driver.find("PushButton", "text", u"Cancel"_s)))));
     driver.press(Qt::Key_Escape);
     ASSERT_TRUE(await([&] { return !asks(); }));
     EXPECT_EQ(windows.store.items().size(), 2);

@@ -6,14 +6,15 @@
 #include <QtQml/qqmlregistration.h>
 
 /// A capsule, or a dot. The software renderer rounds the radius of a rectangle down to whole points, which shows on
-/// small ones; a painter does not. Main thread only.
-class Capsule : public QQuickPaintedItem {
+/// small ones; a painter does not. One point of the item is left free all around: between pixels, at a scale of 1.5,
+/// its edges are cut. Main thread only.
+class CapsuleShape : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
 
 public:
-    explicit Capsule(QQuickItem *parent = nullptr);
+    explicit CapsuleShape(QQuickItem *parent = nullptr);
 
     QColor color() const { return m_color; }
     void setColor(const QColor &color);
