@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/KeyCodes.h"
 #include "support/Await.h"
 #include "ui/ConsentView.h"
 #include "ui/DisclosureView.h"
@@ -12,6 +13,7 @@
 #include <QPalette>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QTest>
 
 #include <cstdio>
 #include <stdexcept>
@@ -42,6 +44,19 @@ void save(QQuickWindow &window, const QString &name)
         throw std::runtime_error("can't write " + path.toStdString());
     }
     std::puts(qPrintable(path));
+}
+
+QQuickItem *find(QQuickItem *item, const char *type)
+{
+    if (QByteArray(item->metaObject()->className()).startsWith(QByteArray(type) + '_')) {
+        return item;
+    }
+    for (QQuickItem *child : item->childItems()) {
+        if (QQuickItem *found = find(child, type)) {
+            return found;
+        }
+    }
+    return nullptr;
 }
 
 void fillGroups(Windows &windows, const QStringList &names)
@@ -91,6 +106,9 @@ void takeHistory()
     windows.history->show(false);
     QQuickView &view = *windows.historyView;
     save(view, u"history-full"_s);
+    QMetaObject::invokeMethod(find(view.rootObject(), "EntryRow"), "menuRequested", Q_ARG(QPointF, QPointF(160, 40)));
+    save(view, u"history-entry-menu"_s);
+    QTest::keyClick(&view, Qt::Key_Escape);
     auto *const model = view.findChild<QObject *>(u"history"_s);
     model->setProperty("search", u"tomorrow"_s);
     save(view, u"history-search"_s);
@@ -135,6 +153,16 @@ void takeSettings(const QString &scheme)
     windows.model.insert(u"launchesAtLogin"_s, true);
     windows.model.insert(u"groupShortcutError"_s, u"⌃⌥ G is already in use. Pick a different shortcut."_s);
     save(view, u"settings-warnings-"_s + scheme);
+    windows.model.insert(u"singleKey"_s, -1);
+    windows.model.insert(u"isFnKey"_s, false);
+    RecorderModel *const recorder = view.findChild<SettingsModel *>()->shortcutRecorder();
+    recorder->toggle();
+    save(view, u"settings-recorder-listening-"_s + scheme);
+    (*windows.fake.keyMonitors.local.front())({KeyEvent::Type::KeyDown, KeyCode::g, 0, u"g"_s});
+    save(view, u"settings-recorder-rejecting-"_s + scheme);
+    recorder->stop();
+    find(view.rootObject(), "HistorySection")->setProperty("confirmClear", true);
+    save(view, u"settings-delete-all-"_s + scheme);
 }
 
 void takeConsent(const QString &scheme)
