@@ -197,7 +197,9 @@ TEST_F(HistoryViewTest, AKeyHeldDownActsOnce)
     EXPECT_EQ(windows.store.items().size(), 2);
 
     windows.history->setEditingGroups(true);
-    for (const auto &[key, left] : {std::pair(Qt::Key_Return, 2), std::pair(Qt::Key_Space, 1)}) {
+    int left = 3;
+    for (const auto key : {Qt::Key_Return, Qt::Key_Space}) {
+        --left;
         ASSERT_TRUE(await([&] { return driver.find("PaperField", "text", u"group %1"_s.arg(4 - left)) != nullptr; }));
         driver.find("PaperField", "text", u"group %1"_s.arg(3 - left))->forceActiveFocus();
         driver.press(Qt::Key_Tab);
