@@ -29,11 +29,11 @@ T.Popup {
 
     T.Overlay.modal: Rectangle { color: Qt.rgba(0, 0, 0, 0.35) }
 
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 10
         color: SystemColors.window
-        border.width: 1
-        border.color: SystemColors.controlBorder
+        borderWidth: 1
+        borderColor: SystemColors.controlBorder
     }
 
     contentItem: Column {

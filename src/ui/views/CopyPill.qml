@@ -29,11 +29,11 @@ KeyButton {
         horizontalAlignment: Text.AlignHCenter
     }
 
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 4
         color: "transparent"
-        border.width: 1
-        border.color: pill.ink
+        borderWidth: 1
+        borderColor: pill.ink
 
         FocusRing { visible: pill.visualFocus; corner: 4; ringColor: Paper.accent }
     }

@@ -3,7 +3,7 @@ import QtQuick
 import Quillo
 
 // Drawn around what has the keyboard focus; a child of its background.
-Rectangle {
+RoundedRectangle {
     property color ringColor: SystemColors.accent
     // The corner radius of what it surrounds.
     property real corner: 6
@@ -12,7 +12,7 @@ Rectangle {
     anchors.margins: -3
     radius: corner + 3
     color: "transparent"
-    border.width: 2
-    border.color: ringColor
+    borderWidth: 2
+    borderColor: ringColor
     z: 1
 }

@@ -23,13 +23,13 @@ Column {
         Accessible.name: text
     }
 
-    Rectangle {
+    RoundedRectangle {
         width: parent.width
         height: rows.height
         radius: 8
         color: SystemColors.box
-        border.width: 1
-        border.color: SystemColors.separator
+        borderWidth: 1
+        borderColor: SystemColors.separator
 
         Column {
             id: rows

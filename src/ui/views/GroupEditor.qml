@@ -49,11 +49,11 @@ T.Popup {
 
     T.Overlay.modal: Rectangle { color: Qt.rgba(0, 0, 0, 0.28) }
 
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 10
         color: Paper.background
-        border.width: 1
-        border.color: Paper.divider
+        borderWidth: 1
+        borderColor: Paper.divider
     }
 
     contentItem: Item {

@@ -37,7 +37,7 @@ Item {
         }
     }
 
-    Rectangle {
+    RoundedRectangle {
         id: capsule
 
         anchors.centerIn: parent
@@ -52,11 +52,12 @@ Item {
             anchors.centerIn: parent
             spacing: 10
 
-            Capsule {
+            RoundedRectangle {
                 visible: view.isRecording
                 anchors.verticalCenter: parent.verticalCenter
                 width: 9
                 height: 9
+                radius: height / 2
                 color: "#ff3b30"
             }
 
@@ -111,7 +112,7 @@ Item {
                 }
             }
 
-            Rectangle {
+            RoundedRectangle {
                 id: buyButton
 
                 visible: view.isOutOfTokens

@@ -15,12 +15,13 @@ Row {
     Repeater {
         model: meter.weights
 
-        Capsule {
+        RoundedRectangle {
             required property real modelData
 
             anchors.verticalCenter: parent.verticalCenter
             width: 3
             height: meter.level * 14 * modelData + 4
+            radius: width / 2
             color: Qt.rgba(1, 1, 1, 0.9)
 
             Behavior on height {

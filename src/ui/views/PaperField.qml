@@ -29,11 +29,11 @@ T.TextField {
         color: field.placeholderTextColor
     }
 
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 5
         color: field.isBordered ? "white" : "transparent"
-        border.width: field.isBordered ? 1 : 0
-        border.color: Paper.faded
+        borderWidth: field.isBordered ? 1 : 0
+        borderColor: Paper.faded
 
         FocusRing { visible: field.activeFocus; anchors.margins: -1; corner: 3; ringColor: Paper.accent }
     }

@@ -32,10 +32,10 @@ T.Menu {
         keyNavigationWraps: true
     }
 
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 7
         color: Qt.lighter(Paper.background, 1.04)
-        border.width: 1
-        border.color: Paper.divider
+        borderWidth: 1
+        borderColor: Paper.divider
     }
 }

@@ -36,7 +36,7 @@ T.MenuItem {
         color: label.color
     }
 
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 4
         color: item.highlighted ? item.isDestructive ? Paper.accent : Paper.primary : "transparent"
     }

@@ -14,7 +14,7 @@ T.ScrollBar {
     minimumSize: 0.06
     visible: size < 1
 
-    contentItem: Rectangle {
+    contentItem: RoundedRectangle {
         implicitWidth: 6
         radius: 3
         color: bar.pressed ? bar.ink : Qt.alpha(bar.ink, 0.45)

@@ -45,11 +45,11 @@ T.ComboBox {
         sourceSize: Qt.size(12, 12)
         source: "symbols/chevron.up.chevron.down.svg"
     }
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 6
         color: picker.down ? Qt.darker(SystemColors.control, 1.1) : SystemColors.control
-        border.width: 1
-        border.color: SystemColors.controlBorder
+        borderWidth: 1
+        borderColor: SystemColors.controlBorder
 
         FocusRing { visible: picker.visualFocus }
     }
@@ -75,7 +75,7 @@ T.ComboBox {
             verticalAlignment: Text.AlignVCenter
             elide: Text.ElideRight
         }
-        background: Rectangle {
+        background: RoundedRectangle {
             radius: 4
             color: choice.highlighted ? SystemColors.accent : "transparent"
         }
@@ -94,11 +94,11 @@ T.ComboBox {
             currentIndex: picker.highlightedIndex
             interactive: false
         }
-        background: Rectangle {
+        background: RoundedRectangle {
             radius: 7
             color: SystemColors.box
-            border.width: 1
-            border.color: SystemColors.controlBorder
+            borderWidth: 1
+            borderColor: SystemColors.controlBorder
         }
     }
 }

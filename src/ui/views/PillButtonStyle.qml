@@ -23,7 +23,7 @@ KeyButton {
         color: Paper.background
     }
 
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: height / 2
         color: Paper.primary
 

@@ -36,14 +36,14 @@ KeyButton {
         elide: Text.ElideRight
     }
 
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 6
         color: {
             const fill = button.isFilled ? SystemColors.accent : button.ground;
             return button.down ? Qt.darker(fill, 1.15) : fill;
         }
-        border.width: 1
-        border.color: button.isFilled ? Qt.darker(SystemColors.accent, 1.1) : button.edge
+        borderWidth: 1
+        borderColor: button.isFilled ? Qt.darker(SystemColors.accent, 1.1) : button.edge
 
         FocusRing { visible: button.visualFocus; ringColor: button.ring }
     }

@@ -4,7 +4,7 @@ import QtQuick.Templates as T
 import Quillo
 
 // A few choices side by side; the arrow keys go from one to the next.
-Rectangle {
+RoundedRectangle {
     id: control
 
     property list<string> segments
@@ -63,11 +63,11 @@ Rectangle {
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter
                 }
-                background: Rectangle {
+                background: RoundedRectangle {
                     radius: 5
                     color: segment.checked ? SystemColors.control : "transparent"
-                    border.width: segment.checked ? 1 : 0
-                    border.color: SystemColors.controlBorder
+                    borderWidth: segment.checked ? 1 : 0
+                    borderColor: SystemColors.controlBorder
 
                     FocusRing { visible: segment.visualFocus; corner: 5 }
                 }

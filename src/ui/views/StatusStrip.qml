@@ -21,11 +21,12 @@ Column {
             width: strip.model.state === "recording" ? 9 : 16
             height: 16
 
-            Capsule {
+            RoundedRectangle {
                 visible: strip.model.state === "recording"
                 anchors.centerIn: parent
                 width: 9
                 height: 9
+                radius: height / 2
                 color: Paper.accent
             }
             Image {

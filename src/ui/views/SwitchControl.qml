@@ -22,7 +22,7 @@ T.Switch {
         toggled();
     }
 
-    indicator: Rectangle {
+    indicator: RoundedRectangle {
         width: control.width
         height: control.height
         radius: height / 2
@@ -32,7 +32,7 @@ T.Switch {
 
         FocusRing { visible: control.visualFocus; corner: control.height / 2 }
 
-        Rectangle {
+        RoundedRectangle {
             x: control.checked ? parent.width - width - 2 : 2
             y: 2
             width: 18

@@ -18,5 +18,5 @@ T.ToolTip {
     font: Paper.sans(11)
 
     contentItem: Text { text: tip.text; font: tip.font; color: Paper.background }
-    background: Rectangle { radius: 4; color: Paper.primary }
+    background: RoundedRectangle { radius: 4; color: Paper.primary }
 }

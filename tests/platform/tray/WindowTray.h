@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "TestClient.h"
+#include "platform/x11/TestClient.h"
 #include "support/ChildProcess.h"
 
 /// A tray that takes windows in (XEmbed), in the upper left corner of the display; it ends with the object.
