@@ -2,7 +2,8 @@
 import QtQuick
 import Quillo
 
-// A rectangle with rounded corners that are smooth at every scale.
+// A rectangle with rounded corners that are smooth at every scale. It is painted into an image of its size, so it is for
+// what is not much larger than a window.
 Item {
     property alias color: shape.color
     property alias radius: shape.radius
