@@ -109,10 +109,25 @@ void Database::open()
             command(u"SET statement_timeout = '10s'"_s);
         }
     } else {
-        command(u"PRAGMA journal_mode = WAL"_s);
+        writeAhead();
         command(u"PRAGMA synchronous = FULL"_s);
         command(u"PRAGMA foreign_keys = ON"_s);
     }
+}
+
+/// A file's first connections may come at once, and SQLite refuses all but one the change, without waiting.
+void Database::writeAhead()
+{
+    constexpr int attempts = 20;
+    const QString change = u"PRAGMA journal_mode = WAL"_s;
+    for (int attempt = 1; attempt < attempts; ++attempt) {
+        if (QSqlQuery(m_connection).exec(change)) {
+            return;
+        }
+        command(u"BEGIN IMMEDIATE"_s); // waits for whoever makes it
+        command(u"COMMIT"_s);
+    }
+    command(change);
 }
 
 void Database::reconnect()

@@ -43,6 +43,7 @@ private:
     friend class Transaction;
 
     void open();
+    void writeAhead();
     void reconnect();
     void migrate();
     /// For what the databases can't prepare: transactions, tables, settings.
