@@ -77,6 +77,7 @@ QCoro::Task<Transcript> ApiClient::transcribe(QString filePath)
     }
     const Multipart multipart(QFileInfo(filePath).fileName(), recording);
     Call call{u"/v1/transcribe"_s, "POST", multipart.body(), multipart.contentType()};
+    call.isHurried = true; // the user waits for the text
     co_return co_await send<Transcript>(std::move(call));
 }
 
@@ -122,7 +123,7 @@ QCoro::Task<HttpResponse> ApiClient::exchange(Call call)
         request.headers.append({"Content-Type", *call.contentType});
     }
     if (call.authenticated) {
-        const QString credential = co_await deviceCredential();
+        const QString credential = co_await deviceCredential(call.isHurried);
         request.headers.append({"Authorization", "Bearer " + credential.toUtf8()});
     }
     const std::optional<HttpResponse> response = co_await m_transport.perform(std::move(request));
@@ -132,9 +133,9 @@ QCoro::Task<HttpResponse> ApiClient::exchange(Call call)
     co_return *response;
 }
 
-QCoro::Task<QString> ApiClient::deviceCredential()
+QCoro::Task<QString> ApiClient::deviceCredential(bool isHurried)
 {
-    if (m_credential && m_isCredentialKept) {
+    if (m_credential && (m_isCredentialKept || isHurried)) {
         co_return QString(*m_credential); // a copy: QCoro moves what it is given, an lvalue that isn't const too
     }
     if (const std::optional<QString> stored = co_await storedCredential()) {

@@ -19,9 +19,9 @@ class PackagedInfo;
 class Preferences;
 
 /// The transcription backend. Registers this device at the first authenticated request and keeps the credential in the
-/// keychain. While that is locked the credential serves from memory, and each request looks again: a device that the
-/// keychain knows takes its place, with the tokens bought for it, and else it is kept there. Main thread only; every
-/// wait suspends. Operations fail with ApiError, an upload without consent with AIConsentError.
+/// keychain. While that is locked the credential serves from memory, and each request but an upload looks again: a
+/// device that the keychain knows takes its place, with the tokens bought for it, and else it is kept there. Main
+/// thread only; every wait suspends. Operations fail with ApiError, an upload without consent with AIConsentError.
 class ApiClient {
 public:
     /// No progress for this long fails a request.
@@ -49,11 +49,12 @@ private:
         std::optional<QByteArray> body = std::nullopt;
         std::optional<QByteArray> contentType = std::nullopt;
         bool authenticated = true;
+        bool isHurried = false; ///< a credential in memory serves, whatever the keychain may know by now
     };
 
     template <typename Record> QCoro::Task<Record> send(Call call, bool retried = false);
     QCoro::Task<HttpResponse> exchange(Call call);
-    QCoro::Task<QString> deviceCredential();
+    QCoro::Task<QString> deviceCredential(bool isHurried);
     QCoro::Task<std::optional<QString>> storedCredential();
     QCoro::Task<void> forgetCredential();
 

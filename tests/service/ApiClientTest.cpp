@@ -285,6 +285,9 @@ TEST_F(ApiClientTest, ALockedStoreLosesNothing)
     resultOf(known.balance());
     EXPECT_EQ(device(), "Bearer dev.s3cret");
     fake.secrets.isAvailable = true;
+    reply.body = R"({"text":"Hello","balance":7})";
+    resultOf(known.transcribe(recording("sound")));
+    EXPECT_EQ(device(), "Bearer dev.s3cret") << "the text does not wait for the store";
     resultOf(known.balance());
     EXPECT_EQ(device(), "Bearer earlier.device");
 
