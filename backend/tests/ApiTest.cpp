@@ -88,8 +88,11 @@ protected:
                "Content-Length: " + std::to_string(body.size()) + "\r\n\r\n" + body;
     }
 
-    void awaitEngine() const
+    /// Uploads and waits until the engine works on it, which it does until `release` is arrived at.
+    void occupyEngine(HttpClient &client, const std::string &device, std::latch &release) const
     {
+        engine->together = &release;
+        client.write(upload(device, tone()));
         while (engine->runs == 0) {
             std::this_thread::yield();
         }
@@ -160,10 +163,8 @@ TEST_P(ApiTest, HoldsNoMoreBodiesThanItHasMemoryFor)
     start({.server = {.bodies = multipart(tone()).size() + 1000}});
     const auto device = registered();
     std::latch entered(2);
-    engine->together = &entered;
     auto first = connect();
-    first.write(upload(device, tone()));
-    awaitEngine();
+    occupyEngine(first, device, entered);
     const auto refused = transcribe(device, tone());
     EXPECT_EQ(refused.error(), "server_busy");
     EXPECT_EQ(refused.status, 503);
@@ -182,10 +183,8 @@ TEST_P(ApiTest, TakesTheTokensOfADeliveredTranscriptAsSoonAsTheDatabaseLetsIt)
     start({.freeTokens = 10, .api = {.transcription = {.chargeDelay = 1ms, .chargeAttempts = 14}}});
     const auto device = registered();
     std::latch entered(2);
-    engine->together = &entered;
     auto client = connect();
-    client.write(upload(device, tone()));
-    awaitEngine();
+    occupyEngine(client, device, entered);
     Store other(database.location(), {}, clock);
     other.database.change(u"UPDATE devices SET balance = 1"_s); // which it lets no one fall below zero
     entered.arrive_and_wait();
@@ -232,10 +231,8 @@ TEST_P(ApiTest, NeverOverdrawsWithTwoRequestsAtOnce)
     start({.freeTokens = 3}); // one recording costs 2
     const auto device = registered();
     std::latch entered(2);
-    engine->together = &entered;
     auto first = connect();
-    first.write(upload(device, tone()));
-    awaitEngine();
+    occupyEngine(first, device, entered);
     EXPECT_EQ(transcribe(device, tone()).status, 402); // while the other one runs
     entered.arrive_and_wait();
     EXPECT_EQ(first.receive().balance(), 1);
@@ -247,10 +244,8 @@ TEST_P(ApiTest, TakesNothingFromAClientThatWentAway)
     start({.freeTokens = 10});
     const auto device = registered();
     std::latch entered(2);
-    engine->together = &entered;
     auto client = connect();
-    client.write(upload(device, tone()));
-    awaitEngine();
+    occupyEngine(client, device, entered);
     client.close();
     entered.arrive_and_wait();
     server->stop(); // returns when the request has been dealt with
@@ -266,9 +261,7 @@ TEST_P(ApiTest, GivesNoTranscriptToAClientThatHasClosedItsHalf)
     const auto device = registered();
     auto client = connect();
     std::latch entered(2);
-    engine->together = &entered;
-    client.write(upload(device, tone()));
-    awaitEngine();
+    occupyEngine(client, device, entered);
     client.closeHalf();
     entered.arrive_and_wait();
     EXPECT_EQ(client.receive().error(), "client_closed");
@@ -280,10 +273,8 @@ TEST_P(ApiTest, AnswersThatItIsBusyWhenTheEngineHasEnough)
     start({.freeTokens = 100, .places = 1});
     const auto device = registered();
     std::latch entered(2);
-    engine->together = &entered;
     auto first = connect();
-    first.write(upload(device, tone()));
-    awaitEngine();
+    occupyEngine(first, device, entered);
     const auto refused = transcribe(device, tone());
     EXPECT_EQ(refused.status, 503);
     EXPECT_EQ(refused.error(), "engine_busy");
