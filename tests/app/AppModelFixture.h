@@ -6,7 +6,7 @@
 #include "support/HttpServer.h"
 #include "support/Printing.h"
 
-#include "app/AppModel.h"
+#include "app/model/AppModel.h"
 #include "platform/KeyCodes.h"
 #include "service/AIConsent.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "AppModelFixture.h"
 
-#include "app/MenuBarExtra.h"
-#include "ui/GroupCarouselModel.h"
-#include "ui/GroupEditorModel.h"
+#include "app/menu/MenuBarExtra.h"
+#include "ui/groups/GroupCarouselModel.h"
+#include "ui/groups/GroupEditorModel.h"
 
 #include <algorithm>
 

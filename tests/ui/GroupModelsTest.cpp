@@ -2,8 +2,8 @@
 #include "FakePlatform.h"
 #include "store/GroupStore.h"
 #include "support/Printing.h"
-#include "ui/GroupCarouselModel.h"
-#include "ui/GroupEditorModel.h"
+#include "ui/groups/GroupCarouselModel.h"
+#include "ui/groups/GroupEditorModel.h"
 
 #include <QAbstractItemModelTester>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "ui/HistoryModel.h"
+#include "ui/history/HistoryModel.h"
 
 #include "FakePlatform.h"
 #include "store/GroupStore.h"
 #include "support/Await.h"
 #include "support/Printing.h"
-#include "ui/EntryDate.h"
-#include "ui/TextPieces.h"
+#include "ui/history/EntryDate.h"
+#include "ui/history/TextPieces.h"
 
 #include <QAbstractItemModelTester>
 #include <QTextLayout>

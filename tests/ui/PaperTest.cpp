@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "ui/Paper.h"
-#include "ui/InterfaceFont.h"
+#include "ui/style/Paper.h"
+#include "ui/style/InterfaceFont.h"
 
 #include "support/Printing.h"
 

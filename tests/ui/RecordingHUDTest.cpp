@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/RecordingHUD.h"
+#include "ui/hud/RecordingHUD.h"
 
 #include "FakePlatform.h"
 

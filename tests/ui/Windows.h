@@ -4,9 +4,10 @@
 #include "FakePlatform.h"
 #include "store/GroupStore.h"
 #include "store/TranscriptionStore.h"
-#include "ui/HistoryWindow.h"
-#include "ui/SettingsWindow.h"
-#include "ui/WindowViews.h"
+#include "ui/history/HistoryView.h"
+#include "ui/history/HistoryWindow.h"
+#include "ui/settings/SettingsView.h"
+#include "ui/settings/SettingsWindow.h"
 
 #include <QJSValue>
 #include <QQmlEngine>
@@ -58,12 +59,13 @@ struct Windows {
         QQmlEngine::setObjectOwnership(&calls, QQmlEngine::CppOwnership);
         history = std::make_unique<HistoryWindow>(
             fake.application, fake.preferences, fake.screens, [this](HistoryWindow &window) {
-                auto made = makeHistoryWindow(engine, model, store, groups, window, pasteboard, fake.clock);
+                auto made = HistoryView::makeWindow(engine, model, store, groups, window, pasteboard, fake.clock);
                 historyView = qobject_cast<QQuickView *>(made.get());
                 return made;
             });
         settings = std::make_unique<SettingsWindow>(fake.application, fake.screens, [this] {
-            auto made = makeSettingsWindow(engine, model, store, groups, fake.packagedInfo, keyMonitors, shortcuts);
+            auto made =
+                SettingsView::makeWindow(engine, model, store, groups, fake.packagedInfo, keyMonitors, shortcuts);
             settingsView = qobject_cast<QQuickView *>(made.get());
             return made;
         });

@@ -1,25 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "app/commands/Doctor.h"
 
-#include "app/DisplayChoice.h"
-#include "app/Services.h"
-#include "app/StoredShortcuts.h"
-#include "app/TerminationSignals.h"
 #include "app/commands/CommandLine.h"
 #include "app/commands/InstanceCommands.h"
 #include "app/commands/Output.h"
+#include "app/model/StoredShortcut.h"
 #include "app/remote/RemoteControl.h"
+#include "app/start/DisplayChoice.h"
+#include "app/start/Services.h"
+#include "app/start/TerminationSignals.h"
 #include "audio/AudioRecorder.h"
 #include "platform/Finding.h"
 #include "platform/audio/SoundExamination.h"
 #include "platform/freedesktop/SecretExamination.h"
 #include "platform/tray/TrayExamination.h"
-#include "platform/x11/TerminalClasses.h"
 #include "platform/x11/X11Backend.h"
-#include "platform/x11/X11Examination.h"
+#include "platform/x11/connection/X11Examination.h"
+#include "platform/x11/windows/TerminalClasses.h"
 #include "service/HttpTransport.h"
 #include "shortcuts/CarbonHotKey.h"
-#include "ui/Paper.h"
+#include "ui/style/Paper.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>

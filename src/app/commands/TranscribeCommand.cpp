@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/commands/TranscribeCommand.h"
 
-#include "app/Services.h"
-#include "app/TerminationSignals.h"
 #include "app/commands/CommandLine.h"
 #include "app/commands/Output.h"
+#include "app/start/Services.h"
+#include "app/start/TerminationSignals.h"
 #include "audio/AudioRecorder.h"
 #include "platform/audio/LibavSoundFiles.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/remote/RemoteControl.h"
 
-#include "app/AppModel.h"
-#include "app/StateName.h"
+#include "app/model/AppModel.h"
+#include "app/model/stateName.h"
 #include "app/remote/RemoteInterfaces.h"
 #include "platform/Application.h"
 

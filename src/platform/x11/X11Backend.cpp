@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/X11Backend.h"
 
-#include "platform/x11/QtScreens.h"
-#include "platform/x11/X11Accessibility.h"
-#include "platform/x11/X11Application.h"
-#include "platform/x11/X11Connection.h"
-#include "platform/x11/X11HotKeys.h"
-#include "platform/x11/X11KeyEvents.h"
-#include "platform/x11/X11KeyMonitors.h"
-#include "platform/x11/X11Keymap.h"
-#include "platform/x11/X11Pasteboard.h"
-#include "platform/x11/X11StatusPanels.h"
+#include "platform/x11/clipboard/X11Pasteboard.h"
+#include "platform/x11/connection/X11Connection.h"
+#include "platform/x11/keys/X11Accessibility.h"
+#include "platform/x11/keys/X11HotKeys.h"
+#include "platform/x11/keys/X11KeyEvents.h"
+#include "platform/x11/keys/X11KeyMonitors.h"
+#include "platform/x11/keys/X11Keymap.h"
+#include "platform/x11/windows/QtScreens.h"
+#include "platform/x11/windows/X11Application.h"
+#include "platform/x11/windows/X11StatusPanels.h"
 
 #include <QGuiApplication>
 

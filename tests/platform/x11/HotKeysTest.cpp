@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "X11Fixture.h"
 #include "platform/KeyCodes.h"
-#include "platform/x11/X11HotKeys.h"
+#include "platform/x11/keys/X11HotKeys.h"
 #include "support/Await.h"
 
 using namespace Qt::StringLiterals;

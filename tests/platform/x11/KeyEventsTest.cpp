@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "X11Fixture.h"
 #include "platform/KeyCodes.h"
-#include "platform/x11/TerminalClasses.h"
-#include "platform/x11/X11KeyEvents.h"
+#include "platform/x11/keys/X11KeyEvents.h"
+#include "platform/x11/windows/TerminalClasses.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "X11Fixture.h"
 #include "platform/KeyCodes.h"
-#include "platform/x11/X11KeyMonitors.h"
+#include "platform/x11/keys/X11KeyMonitors.h"
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;

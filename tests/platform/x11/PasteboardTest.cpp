@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "FakeClock.h"
 #include "TestClient.h"
-#include "platform/x11/SelectionOwner.h"
-#include "platform/x11/SelectionReader.h"
-#include "platform/x11/X11Pasteboard.h"
+#include "platform/x11/clipboard/SelectionOwner.h"
+#include "platform/x11/clipboard/SelectionReader.h"
+#include "platform/x11/clipboard/X11Pasteboard.h"
 #include "support/Await.h"
 
 #include <QCoreApplication>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/SelectionOwner.h"
+#include "platform/x11/clipboard/SelectionOwner.h"
 #include "TestClient.h"
 #include "support/Await.h"
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "FakeClock.h"
 #include "TestClient.h"
-#include "platform/x11/TerminalClasses.h"
 #include "platform/x11/X11Backend.h"
-#include "platform/x11/X11Examination.h"
-#include "platform/x11/X11Extensions.h"
+#include "platform/x11/connection/X11Examination.h"
+#include "platform/x11/connection/X11Extensions.h"
+#include "platform/x11/windows/TerminalClasses.h"
 #include "support/Await.h"
 
 #include <QClipboard>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "TestClient.h"
-#include "platform/x11/X11Connection.h"
-#include "platform/x11/X11Keymap.h"
+#include "platform/x11/connection/X11Connection.h"
+#include "platform/x11/keys/X11Keymap.h"
 #include "support/VirtualDisplay.h"
 
 #include <QCoreApplication>

@@ -4,8 +4,8 @@
 #include "ui/Windows.h"
 
 #include "ViewDriver.h"
-#include "platform/x11/TerminalClasses.h"
 #include "platform/x11/X11Backend.h"
+#include "platform/x11/windows/TerminalClasses.h"
 #include "support/Printing.h"
 #include "support/VirtualDisplay.h"
 

@@ -1,7 +1,0 @@
-// SPDX-License-Identifier: MIT
-#include "app/QuilloApp.h"
-
-int main(int argc, char *argv[])
-{
-    return QuilloApp::run(argc, argv);
-}

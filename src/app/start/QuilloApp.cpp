@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "app/start/QuilloApp.h"
+
+#include "app/commands/CommandLine.h"
+#include "app/commands/Doctor.h"
+#include "app/commands/InstanceCommands.h"
+#include "app/commands/Output.h"
+#include "app/commands/TranscribeCommand.h"
+#include "app/remote/RemoteControl.h"
+#include "app/start/AppDelegate.h"
+#include "app/start/Composition.h"
+#include "app/start/DisplayChoice.h"
+#include "app/start/TerminationSignals.h"
+#include "platform/Platform.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QQuickWindow>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What remains of the program's arguments is none of Qt's.
+struct Arguments {
+    int count = 1;
+    char **values;
+};
+
+int start(Arguments arguments)
+{
+    if (const auto refusal = DisplayChoice::refusal()) {
+        // A program that runs can be reopened from where another could not be started, such as a bare terminal.
+        const QCoreApplication application(arguments.count, arguments.values);
+        const QDBusConnection bus = QDBusConnection::sessionBus();
+        return RemoteControl::isRunning(bus) ? InstanceCommands::activate(bus)
+                                             : Output::fail(*refusal, ExitStatus::failed);
+    }
+    DisplayChoice::prepare();
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QQuickWindow::setDefaultAlphaBuffer(true);
+
+    QApplication application(arguments.count, arguments.values); // the tray's own menu is a widget
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(QIcon(u":/quillo/app.quillo.Quillo.svg"_s));
+
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    RemoteControl remote(bus);
+    switch (remote.claim()) {
+    case RemoteControl::Claim::IsSecond:
+        return InstanceCommands::activate(bus);
+    case RemoteControl::Claim::NoBus:
+        Output::fail(
+            u"There is no session bus: no tray item but XEmbed's, no keyring, and commands can't reach Quillo."_s,
+            ExitStatus::failed);
+        break;
+    case RemoteControl::Claim::IsFirst:
+        break;
+    }
+
+    const TerminationSignals signals([] { QCoreApplication::quit(); });
+    QString whyNot;
+    const auto composition = Composition::create(&whyNot);
+    if (!composition) {
+        return Output::fail(whyNot, ExitStatus::failed);
+    }
+    AppDelegate(*composition).applicationDidFinishLaunching();
+    // What has been asked of the program meanwhile is served by the event loop, after the launch.
+    remote.setTarget(composition->model(), composition->platform().application);
+    const int status = QApplication::exec();
+    remote.clearTarget();
+    return status;
+}
+
+int doctor(Arguments arguments)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // it looks at the display without using it
+    const QGuiApplication application(arguments.count, arguments.values);
+    return doctorCommand();
+}
+
+template <typename... Cases> struct Overloaded : Cases... {
+    using Cases::operator()...;
+};
+template <typename... Cases> Overloaded(Cases...) -> Overloaded<Cases...>;
+
+} // namespace
+
+int QuilloApp::run(int argc, char *argv[])
+{
+    QCoreApplication::setApplicationName(u"Quillo"_s);
+    QCoreApplication::setApplicationVersion(u"" QUILLO_VERSION ""_s);
+    QGuiApplication::setDesktopFileName(u"app.quillo.Quillo"_s);
+
+    QStringList words;
+    for (int place = 1; place < argc; ++place) {
+        words.append(QString::fromLocal8Bit(argv[place]));
+    }
+    Arguments own{1, argv};
+    const auto onBus = [&own](const auto &action) {
+        const QCoreApplication application(own.count, own.values);
+        return action(QDBusConnection::sessionBus());
+    };
+    return std::visit(
+        Overloaded{
+            [&](const CommandLine::Start &) { return start(own); },
+            [&](const CommandLine::Print &print) {
+                Output::print(print.text);
+                return ExitStatus::done;
+            },
+            [&](const CommandLine::Act &act) {
+                return onBus([&](const QDBusConnection &bus) { return InstanceCommands::act(bus, act.action); });
+            },
+            [&](const CommandLine::Status &status) {
+                return onBus(
+                    [&](const QDBusConnection &bus) { return InstanceCommands::printStatus(bus, status.asJson); });
+            },
+            [&](const CommandLine::Transcribe &transcribe) {
+                const QCoreApplication application(own.count, own.values);
+                return transcribeCommand(transcribe.path);
+            },
+            [&](const CommandLine::Doctor &) { return doctor(own); },
+            [&](const CommandLine::Mistake &mistake) {
+                return Output::fail(mistake.text + u" See: quillo --help"_s, ExitStatus::usage);
+            },
+        },
+        CommandLine::parse(words, QCoreApplication::applicationVersion()));
+}

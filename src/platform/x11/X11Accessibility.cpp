@@ -1,7 +1,0 @@
-// SPDX-License-Identifier: MIT
-#include "platform/x11/X11Accessibility.h"
-
-bool X11Accessibility::isTrusted() const
-{
-    return m_connection.extensions().rawKeys && m_connection.extensions().test;
-}

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "ui/history/HistoryView.h"
+
+#include "ui/groups/GroupCarouselModel.h"
+#include "ui/groups/GroupEditorModel.h"
+#include "ui/history/HistoryModel.h"
+#include "ui/history/HistoryWindow.h"
+#include "ui/style/Paper.h"
+#include "ui/windows/ViewWindow.h"
+
+#include <QQuickView>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize historySize(460, 680);
+constexpr QSize leastHistorySize(380, 440);
+
+} // namespace
+
+std::unique_ptr<QWindow> HistoryView::makeWindow(QQmlEngine &engine, QObject &model, TranscriptionStore &store,
+                                                 GroupStore &groups, HistoryWindow &window, Pasteboard &pasteboard,
+                                                 Clock &clock)
+{
+    auto history = std::make_unique<HistoryModel>(store, groups, pasteboard, clock);
+    auto carousel = std::make_unique<GroupCarouselModel>(groups);
+    auto editor = std::make_unique<GroupEditorModel>(groups);
+    auto view = makeViewWindow(engine, u"history/HistoryView"_s,
+                               {{u"model"_s, QVariant::fromValue(&model)},
+                                {u"history"_s, QVariant::fromValue(history.get())},
+                                {u"carousel"_s, QVariant::fromValue(carousel.get())},
+                                {u"editor"_s, QVariant::fromValue(editor.get())},
+                                {u"historyWindow"_s, QVariant::fromValue<QObject *>(&window)}});
+    history->setObjectName(u"history"_s);
+    history.release()->setParent(view.get());
+    carousel.release()->setParent(view.get());
+    editor.release()->setParent(view.get());
+    view->setResizeMode(QQuickView::SizeRootObjectToView);
+    view->setTitle(u"Quillo"_s);
+    view->setColor(Paper::background());
+    view->setMinimumSize(leastHistorySize);
+    view->resize(historySize);
+    return view;
+}

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import Quillo
+
+// What the program is doing, the balance, and the shortcuts worth knowing here.
+Column {
+    id: strip
+
+    required property var model
+
+    spacing: 6
+
+    Item {
+        width: parent.width
+        height: Math.max(status.implicitHeight, 16)
+
+        Item {
+            id: indicator
+
+            anchors.verticalCenter: parent.verticalCenter
+            width: strip.model.state === "recording" ? 9 : 16
+            height: 16
+
+            RoundedRectangle {
+                visible: strip.model.state === "recording"
+                anchors.centerIn: parent
+                width: 9
+                height: 9
+                radius: height / 2
+                color: Paper.accent
+            }
+            Image {
+                visible: strip.model.state === "idle"
+                anchors.centerIn: parent
+                sourceSize: Qt.size(16, 16)
+                source: "../style/symbols/waveform.svg"
+            }
+            Spinner {
+                visible: strip.model.state === "transcribing"
+                anchors.centerIn: parent
+                color: Paper.secondary
+                running: visible && strip.Window.window !== null && strip.Window.window.visible
+            }
+        }
+        Text {
+            id: status
+
+            anchors { left: indicator.right; leftMargin: 8; right: balance.left; rightMargin: 8; verticalCenter: parent.verticalCenter }
+            text: strip.model.statusText
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
+            font: Paper.sans(13)
+            color: Paper.primary
+            Accessible.role: Accessible.StatusBar
+            Accessible.name: text
+        }
+        MetaLabel {
+            id: balance
+
+            visible: strip.model.balance !== undefined
+            anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+            width: visible ? implicitWidth : 0
+            label: visible ? strip.model.balance + " tokens" : ""
+        }
+    }
+
+    MetaLabel {
+        width: parent.width
+        label: strip.model.groupShortcutLabel + "  next group   ·   " + strip.model.historyShortcutLabel + "  hide"
+    }
+}

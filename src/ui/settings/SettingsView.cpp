@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "ui/settings/SettingsView.h"
+
+#include "ui/windows/ViewWindow.h"
+
+#include <QQuickItem>
+#include <QQuickView>
+#include <QScreen>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int settingsWidth = 500;
+/// Kept free of the settings window on a low screen, for its title bar and the desktop's panels.
+constexpr int screenMargin = 96;
+
+/// Keeps the settings window as high as its content, or as the screen allows.
+void followContent(QQuickView &view)
+{
+    const auto fit = [&view] {
+        const int wanted = qCeil(view.rootObject()->implicitHeight());
+        const int allowed = view.screen() ? view.screen()->availableSize().height() - screenMargin : wanted;
+        const QSize size(settingsWidth, std::min(wanted, allowed));
+        view.setMinimumSize(size);
+        view.setMaximumSize(size);
+        view.resize(size);
+    };
+    QObject::connect(view.rootObject(), &QQuickItem::implicitHeightChanged, &view, fit);
+    QObject::connect(&view, &QWindow::screenChanged, &view, fit);
+    fit();
+}
+
+} // namespace
+
+std::unique_ptr<QWindow> SettingsView::makeWindow(QQmlEngine &engine, QObject &model, TranscriptionStore &store,
+                                                  GroupStore &groups, const PackagedInfo &info,
+                                                  KeyMonitors &keyMonitors, const SettingsModel::Shortcuts &shortcuts)
+{
+    auto settings = std::make_unique<SettingsModel>(store, groups, info, keyMonitors, shortcuts);
+    auto view = makeViewWindow(
+        engine, u"settings/SettingsView"_s,
+        {{u"model"_s, QVariant::fromValue(&model)}, {u"settings"_s, QVariant::fromValue(settings.get())}});
+    settings.release()->setParent(view.get());
+    view->setResizeMode(QQuickView::SizeRootObjectToView);
+    view->setTitle(u"Quillo Settings"_s);
+    view->setFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowCloseButtonHint);
+    followContent(*view);
+    return view;
+}

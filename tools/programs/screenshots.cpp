@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: MIT
+#include "platform/KeyCodes.h"
+#include "support/Await.h"
+#include "ui/Windows.h"
+#include "ui/consent/ConsentView.h"
+#include "ui/consent/DisclosureView.h"
+#include "ui/hud/HUDModel.h"
+#include "ui/style/Paper.h"
+#include "ui/windows/ViewWindow.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QPalette>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+
+#include <cstdio>
+#include <stdexcept>
+
+// Renders every window and every phase of the HUD with the program's own views into a folder of PNG files.
+// Usage: quillo-screenshots FOLDER [SUFFIX]
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+QString folder;
+QString suffix;
+
+void letSettle(std::chrono::milliseconds duration)
+{
+    QEventLoop loop;
+    QTimer::singleShot(duration, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+void save(QQuickWindow &window, const QString &name)
+{
+    letSettle(600ms); // the longest animation takes 350 ms
+    const QString path = folder + u'/' + name + suffix + u".png"_s;
+    if (!window.grabWindow().save(path)) {
+        throw std::runtime_error("can't write " + path.toStdString());
+    }
+    std::puts(qPrintable(path));
+}
+
+QQuickItem *find(QQuickItem *item, const char *type)
+{
+    if (QByteArray(item->metaObject()->className()).startsWith(QByteArray(type) + '_')) {
+        return item;
+    }
+    for (QQuickItem *child : item->childItems()) {
+        if (QQuickItem *found = find(child, type)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+void fillGroups(Windows &windows, const QStringList &names)
+{
+    for (const QString &name : names) {
+        windows.groups.add(name);
+    }
+}
+
+void fillHistory(Windows &windows)
+{
+    struct Entry {
+        QString text;
+        std::chrono::minutes before;
+        int group;
+    };
+    const QList<Entry> entries{
+        {u"Packing list: charger, notebook, rain jacket, and the small tripod."_s, 60h * 30, -1},
+        {u"שלום לכולם, הפגישה מחר בשעה עשר. נא לאשר הגעה."_s, 70h, 1},
+        {u"Please confirm the delivery for Thursday 🎉 and tell them we need two more days. 👍🏽"_s, 26h, 0},
+        {u"The quarterly figures look better than expected. Revenue is up eleven percent, mostly from the two new "
+         "regions, and support costs have not grown with it. I would still like a second pair of eyes on the "
+         "forecast before it goes to the board on Tuesday."_s,
+         3h, 0},
+        {u"Idea for the opening chapter: begin with the letter, not with the storm."_s, 61min, 1},
+        {u"Thanks for the quick reply. Tomorrow at ten works for me."_s, 4min, -1},
+    };
+    const auto now = windows.fake.clock.now();
+    for (const Entry &entry : entries) {
+        windows.fake.clock.set(now - entry.before);
+        const auto &groups = windows.groups.groups();
+        windows.store.add(entry.text, entry.group < 0 ? std::nullopt : std::optional(groups.at(entry.group).id));
+    }
+    windows.fake.clock.set(now);
+}
+
+void takeHistory()
+{
+    {
+        Windows empty;
+        empty.history->show(false);
+        save(*empty.historyView, u"history-empty"_s);
+    }
+    Windows windows;
+    fillGroups(windows, {u"Work"_s, u"Novel"_s, u"Errands"_s, u"Talks"_s});
+    fillHistory(windows);
+    windows.history->show(false);
+    QQuickView &view = *windows.historyView;
+    save(view, u"history-full"_s);
+    QMetaObject::invokeMethod(find(view.rootObject(), "EntryRow"), "menuRequested", Q_ARG(QPointF, QPointF(160, 40)));
+    save(view, u"history-entry-menu"_s);
+    QTest::keyClick(&view, Qt::Key_Escape);
+    auto *const model = view.findChild<QObject *>(u"history"_s);
+    model->setProperty("search", u"tomorrow"_s);
+    save(view, u"history-search"_s);
+    model->setProperty("search", u"zebra"_s);
+    save(view, u"history-no-matches"_s);
+    model->setProperty("search", QString());
+    windows.model.insert(u"state"_s, u"recording"_s);
+    windows.model.insert(u"statusText"_s, u"Listening… (Esc to cancel)"_s);
+    windows.groups.setActiveId(windows.groups.groups().first().id);
+    const QString copied = windows.store.items(windows.groups.activeId()).first().id;
+    QMetaObject::invokeMethod(model, "copy", Q_ARG(QString, copied));
+    save(view, u"history-group-recording"_s);
+    windows.groups.setActiveId(windows.groups.groups().last().id);
+    windows.model.insert(u"state"_s, u"transcribing"_s);
+    windows.model.insert(u"statusText"_s, u"Transcribing…"_s);
+    save(view, u"history-group-empty"_s);
+    windows.history->show(true);
+    save(view, u"group-editor"_s);
+    windows.history->setEditingGroups(false);
+    fillGroups(windows, {u""_s, u"Weekly planning notes and everything that did not fit elsewhere"_s});
+    windows.groups.setActiveId(windows.groups.groups().last().id);
+    view.resize(380, 440);
+    save(view, u"history-long-names-small"_s);
+    windows.history->show(true);
+    save(view, u"group-editor-long-names"_s);
+}
+
+void takeSettings(const QString &scheme)
+{
+    Windows windows;
+    windows.fake.packagedInfo.values.insert(u"CFBundleShortVersionString"_s, u"0.1.0"_s);
+    windows.settings->show();
+    QQuickView &view = *windows.settingsView;
+    save(view, u"settings-empty-"_s + scheme);
+    fillGroups(windows, {u"Work"_s, u"Novel"_s, u"Errands"_s});
+    fillHistory(windows);
+    windows.model.insert(u"singleKey"_s, 3);
+    windows.model.insert(u"isFnKey"_s, true);
+    windows.model.insert(u"isTrusted"_s, false);
+    windows.model.insert(u"hasConsent"_s, false);
+    windows.model.insert(u"balance"_s, QVariant());
+    windows.model.insert(u"launchesAtLogin"_s, true);
+    windows.model.insert(u"groupShortcutError"_s, u"⌃⌥ G is already in use. Pick a different shortcut."_s);
+    save(view, u"settings-warnings-"_s + scheme);
+    windows.model.insert(u"singleKey"_s, -1);
+    windows.model.insert(u"isFnKey"_s, false);
+    ShortcutRecorderModel *const recorder = view.findChild<SettingsModel *>()->shortcutRecorder();
+    recorder->toggle();
+    save(view, u"settings-recorder-listening-"_s + scheme);
+    (*windows.fake.keyMonitors.local.front())({KeyEvent::Type::KeyDown, KeyCode::g, 0, u"g"_s});
+    save(view, u"settings-recorder-rejecting-"_s + scheme);
+    recorder->stop();
+    find(view.rootObject(), "HistorySection")->setProperty("confirmClear", true);
+    save(view, u"settings-delete-all-"_s + scheme);
+}
+
+void takeConsent(const QString &scheme)
+{
+    FakePlatform fake;
+    QQmlEngine engine;
+    AIConsent consent(fake.preferences, fake.clock);
+    fake.packagedInfo.values = {{u"QLOOpenAIPrivacyURL"_s, u"https://openai.example/"_s},
+                                {u"QLOPrivacyPolicyURL"_s, u"https://quillo.example/"_s}};
+    for (const bool isReview : {false, true}) {
+        DisclosureView disclosure(isReview, consent, fake.packagedInfo, [](bool) {});
+        const auto window = ConsentView::makeWindow(engine, disclosure);
+        window->show();
+        save(static_cast<QQuickWindow &>(*window), (isReview ? u"consent-review-"_s : u"consent-first-"_s) + scheme);
+        consent.grant();
+    }
+}
+
+void takeHUD()
+{
+    QQmlEngine engine;
+    const std::pair<QString, HUDModel::Phase> phases[]{
+        {u"hud-recording"_s, HUDPhase::Recording{}},
+        {u"hud-recording-hands-free"_s, HUDPhase::Recording{true}},
+        {u"hud-transcribing"_s, HUDPhase::Transcribing{}},
+        {u"hud-message"_s, HUDPhase::Message{u"Copied — press ⌘V to paste"_s}},
+        {u"hud-error"_s, HUDPhase::Message{u"Network error. Please check your connection."_s, true}},
+        {u"hud-group"_s, HUDPhase::Group{u"Work"_s}},
+        {u"hud-group-long"_s, HUDPhase::Group{u"Weekly planning notes and everything else"_s}},
+        {u"hud-out-of-tokens"_s, HUDPhase::OutOfTokens{}},
+        {u"hud-no-free-tokens"_s, HUDPhase::OutOfTokens{true}},
+    };
+    for (const auto &[name, phase] : phases) {
+        HUDModel model;
+        model.setPhase(phase);
+        model.setLevel(0.6F);
+        const auto view = makeViewWindow(engine, u"HUDView"_s, {{u"model"_s, QVariant::fromValue(&model)}});
+        view->setColor(QColor(0x8a, 0x93, 0xa0));
+        view->setResizeMode(QQuickView::SizeRootObjectToView);
+        view->resize(280, 56);
+        view->show();
+        save(*view, name);
+    }
+}
+
+void setDark(bool isDark)
+{
+    QPalette palette = QGuiApplication::palette();
+    palette.setColor(QPalette::Window, isDark ? Qt::black : Qt::white);
+    palette.setColor(QPalette::WindowText, isDark ? Qt::white : Qt::black);
+    QGuiApplication::setPalette(palette);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    const QGuiApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() < 2) {
+        std::fputs("usage: quillo-screenshots FOLDER [SUFFIX]\n", stderr);
+        return 2;
+    }
+    folder = arguments.at(1);
+    suffix = arguments.value(2);
+    QDir().mkpath(folder);
+    Paper::registerFonts(qEnvironmentVariable("QUILLO_RESOURCES"));
+    try {
+        setDark(false);
+        takeHistory();
+        takeSettings(u"light"_s);
+        takeConsent(u"light"_s);
+        setDark(true);
+        takeSettings(u"dark"_s);
+        takeConsent(u"dark"_s);
+        takeHUD();
+        return 0;
+    } catch (const std::exception &error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 1;
+    }
+}
