@@ -4,8 +4,8 @@
 #include "support/ChildProcess.h"
 #include "support/VirtualDisplay.h"
 #include "ui/Windows.h"
+#include "ui/history/HistoryModel.h"
 
-#include <QAbstractItemModel>
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -111,20 +111,19 @@ void print(const char *name, double value)
 }
 
 /// The rows on screen are those of the search.
-bool showsMatches(QAbstractItemModel &model)
+bool showsMatches(HistoryModel &history)
 {
-    const QString query = model.property("search").toString();
-    const int text = model.roleNames().key("text");
+    const HistoryRows &rows = *history.rows();
     bool showsAll = true;
-    for (int row = 0; row < std::min(model.rowCount(), rowsOnScreen); ++row) {
-        showsAll &= model.index(row, 0).data(text).toString().contains(query);
+    for (int row = 0; row < std::min(rows.rowCount(), rowsOnScreen); ++row) {
+        showsAll &= rows.index(row).data(HistoryRows::TextRole).toString().contains(history.search());
     }
-    return showsAll && (model.rowCount() >= rowsOnScreen || !model.property("isSearching").toBool());
+    return showsAll && (rows.rowCount() >= rowsOnScreen || !history.isSearching());
 }
 
 void measureSearch(QQuickView &view)
 {
-    auto *const model = view.findChild<QAbstractItemModel *>(u"history"_s);
+    auto *const history = view.findChild<HistoryModel *>();
     QQuickItem *const search = find(view.rootObject(), "SearchField");
     search->property("field").value<QQuickItem *>()->forceActiveFocus();
     for (const QString &query : {u"tomorrow"_s, u"hello group"_s, u"zebra"_s}) {
@@ -136,11 +135,11 @@ void measureSearch(QQuickView &view)
                     QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(letter));
                     QCoreApplication::sendEvent(&view, &press);
                 },
-                [&] { return showsMatches(*model); });
+                [&] { return showsMatches(*history); });
             print("keystroke", time);
             pause(30ms);
         }
-        model->setProperty("search", QString());
+        history->setSearch({});
         pause(60ms);
     }
 }

@@ -21,15 +21,15 @@ namespace {
 
 class HistoryModelTest : public ::testing::Test {
 protected:
-    QVariant at(int row, HistoryModel::Role role) const { return model.data(model.index(row), role); }
+    QVariant at(int row, HistoryRows::Role role) const { return rows.data(rows.index(row), role); }
 
-    QString idAt(int row) const { return at(row, HistoryModel::EntryIdRole).toString(); }
+    QString idAt(int row) const { return at(row, HistoryRows::EntryIdRole).toString(); }
 
     QStringList texts() const
     {
         QStringList shown;
-        for (int row = 0; row < model.rowCount(); ++row) {
-            shown.append(at(row, HistoryModel::TextRole).toString());
+        for (int row = 0; row < rows.rowCount(); ++row) {
+            shown.append(at(row, HistoryRows::TextRole).toString());
         }
         return shown;
     }
@@ -44,8 +44,9 @@ protected:
     TranscriptionStore store{fake.files, fake.clock};
     GroupStore groups{fake.files, fake.preferences};
     HistoryModel model{store, groups, fake.pasteboard, fake.clock};
+    const HistoryRows &rows = *model.rows();
     /// Fails the test when rows change without the model saying so.
-    QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
+    QAbstractItemModelTester tester{model.rows(), QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
 } // namespace
@@ -148,15 +149,15 @@ TEST_F(HistoryModelTest, ShowsTheActiveGroupAndCountsIt)
     const QString work = groups.add(u"Work"_s).id;
     store.add(u"a"_s, work);
     store.add(u"b"_s, u"a deleted group"_s);
-    EXPECT_EQ(at(0, HistoryModel::MetaRole), u"just now"_s);
-    EXPECT_EQ(at(1, HistoryModel::MetaRole), u"just now · Work"_s);
-    EXPECT_TRUE(at(0, HistoryModel::ShowDividerRole).toBool());
-    EXPECT_FALSE(at(1, HistoryModel::ShowDividerRole).toBool());
+    EXPECT_EQ(at(0, HistoryRows::MetaRole), u"just now"_s);
+    EXPECT_EQ(at(1, HistoryRows::MetaRole), u"just now · Work"_s);
+    EXPECT_TRUE(at(0, HistoryRows::ShowDividerRole).toBool());
+    EXPECT_FALSE(at(1, HistoryRows::ShowDividerRole).toBool());
 
     groups.setActiveId(work);
     EXPECT_EQ(texts(), QStringList{u"a"_s});
     EXPECT_EQ(model.countText(), u"1 entry"_s);
-    EXPECT_EQ(at(0, HistoryModel::MetaRole), u"just now"_s);
+    EXPECT_EQ(at(0, HistoryRows::MetaRole), u"just now"_s);
     model.move(idAt(0), {});
     EXPECT_TRUE(model.isEmpty());
 }
@@ -168,9 +169,8 @@ TEST_F(HistoryModelTest, OffersEveryOtherGroupToMoveTo)
     store.add(u"a"_s, std::nullopt);
     const auto offered = [&] {
         QStringList targets;
-        for (const QVariant &target : model.moveTargets(idAt(0))) {
-            const auto map = target.toMap();
-            targets.append(map[u"name"_s].toString() + (map[u"isEnabled"_s].toBool() ? u"+"_s : u"-"_s));
+        for (const MoveTarget &target : model.moveTargets(idAt(0))) {
+            targets.append(target.name + (target.isEnabled ? u"+"_s : u"-"_s));
         }
         return targets;
     };
@@ -184,7 +184,7 @@ TEST_F(HistoryModelTest, MarksTheNewestCopyForThreeSeconds)
     store.add(u"older"_s, std::nullopt);
     store.add(u"newer"_s, std::nullopt);
     const auto marks = [&] {
-        return std::pair(at(0, HistoryModel::IsCopiedRole).toBool(), at(1, HistoryModel::IsCopiedRole).toBool());
+        return std::pair(at(0, HistoryRows::IsCopiedRole).toBool(), at(1, HistoryRows::IsCopiedRole).toBool());
     };
     model.copy(idAt(0));
     EXPECT_EQ(fake.pasteboard.string(), u"newer"_s);
@@ -217,7 +217,7 @@ TEST_F(HistoryModelTest, AgesMoveOnTheMinuteWhileTheWindowIsOpen)
     fake.clock.set(fake.clock.now() + 45s);
     store.add(u"a"_s, std::nullopt);
     int changes = 0;
-    QObject::connect(&model, &HistoryModel::dataChanged, &model, [&] { ++changes; });
+    QObject::connect(&rows, &HistoryRows::dataChanged, &model, [&] { ++changes; });
     fake.clock.advance(1h);
     EXPECT_EQ(changes, 0);
     model.setLive(true);

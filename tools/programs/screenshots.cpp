@@ -4,6 +4,7 @@
 #include "ui/Windows.h"
 #include "ui/consent/ConsentView.h"
 #include "ui/consent/DisclosureView.h"
+#include "ui/history/HistoryModel.h"
 #include "ui/hud/HUDModel.h"
 #include "ui/style/Paper.h"
 #include "ui/windows/ViewWindow.h"
@@ -109,17 +110,17 @@ void takeHistory()
     QMetaObject::invokeMethod(find(view.rootObject(), "EntryRow"), "menuRequested", Q_ARG(QPointF, QPointF(160, 40)));
     save(view, u"history-entry-menu"_s);
     QTest::keyClick(&view, Qt::Key_Escape);
-    auto *const model = view.findChild<QObject *>(u"history"_s);
-    model->setProperty("search", u"tomorrow"_s);
+    auto *const history = view.findChild<HistoryModel *>();
+    history->setSearch(u"tomorrow"_s);
     save(view, u"history-search"_s);
-    model->setProperty("search", u"zebra"_s);
+    history->setSearch(u"zebra"_s);
     save(view, u"history-no-matches"_s);
-    model->setProperty("search", QString());
+    history->setSearch({});
     windows.model.insert(u"state"_s, u"recording"_s);
     windows.model.insert(u"statusText"_s, u"Listening… (Esc to cancel)"_s);
     windows.groups.setActiveId(windows.groups.groups().first().id);
     const QString copied = windows.store.items(windows.groups.activeId()).first().id;
-    QMetaObject::invokeMethod(model, "copy", Q_ARG(QString, copied));
+    history->copy(copied);
     save(view, u"history-group-recording"_s);
     windows.groups.setActiveId(windows.groups.groups().last().id);
     windows.model.insert(u"state"_s, u"transcribing"_s);
@@ -199,7 +200,7 @@ void takeHUD()
         HUDModel model;
         model.setPhase(phase);
         model.setLevel(0.6F);
-        const auto view = makeViewWindow(engine, u"HUDView"_s, {{u"model"_s, QVariant::fromValue(&model)}});
+        const auto view = makeViewWindow(engine, u"hud/HUDView"_s, {{u"model"_s, QVariant::fromValue(&model)}});
         view->setColor(QColor(0x8a, 0x93, 0xa0));
         view->setResizeMode(QQuickView::SizeRootObjectToView);
         view->resize(280, 56);

@@ -8,7 +8,7 @@ T.Popup {
     id: sheet
 
     required property GroupEditorModel groups
-    required property var historyWindow
+    required property HistoryWindow historyWindow
     property Item focusBefore: null
 
     parent: T.Overlay.overlay

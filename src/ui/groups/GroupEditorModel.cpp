@@ -2,7 +2,7 @@
 #include "ui/groups/GroupEditorModel.h"
 
 #include "store/GroupStore.h"
-#include "ui/windows/trimmedBlanks.h"
+#include "ui/models/trimmedBlanks.h"
 
 GroupEditorModel::GroupEditorModel(GroupStore &groups) : m_groups(groups), m_count(int(groups.groups().size()))
 {

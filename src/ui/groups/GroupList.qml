@@ -73,9 +73,16 @@ Rectangle {
         }
         Connections {
             target: frame.groups
-            function onRowsInserted(parent, first, last) {
-                Qt.callLater(list.positionViewAtIndex, last, ListView.Contain);
+            function onRowsInserted() {
+                reveal.start();
             }
+        }
+        // Once the list has made the row.
+        Timer {
+            id: reveal
+
+            interval: 0
+            onTriggered: list.positionViewAtIndex(list.count - 1, ListView.Contain)
         }
 
         Rectangle {

@@ -39,7 +39,7 @@ Rectangle {
         id: grip
 
         anchors { left: parent.left; leftMargin: 6; verticalCenter: parent.verticalCenter }
-        sourceSize: Qt.size(12, 12)
+        sourceSize { width: 12; height: 12 }
         source: "../style/symbols/line.3.horizontal.svg"
 
         HoverHandler { cursorShape: drag.active ? Qt.ClosedHandCursor : Qt.OpenHandCursor }
@@ -98,7 +98,7 @@ Rectangle {
         Accessible.description: row.name
 
         contentItem: Image {
-            sourceSize: Qt.size(14, 14)
+            sourceSize { width: 14; height: 14 }
             fillMode: Image.Pad
             source: "../style/symbols/trash.svg"
         }

@@ -25,7 +25,7 @@ Item {
         color: Paper.primary
     }
     Image {
-        sourceSize: Qt.size(44, 56)
+        sourceSize { width: 44; height: 56 }
         source: "../style/symbols/slash.svg"
     }
 

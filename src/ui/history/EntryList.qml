@@ -17,6 +17,11 @@ Item {
         search.field.selectAll();
     }
 
+    function take(row: int) {
+        list.currentIndex = row;
+        list.forceActiveFocus();
+    }
+
     SearchField {
         id: search
 
@@ -32,7 +37,7 @@ Item {
         id: list
 
         anchors.fill: parent
-        model: entries.history
+        model: entries.history.rows
         // The search field lies above the list, so that it has a keyboard focus of its own; this is its room.
         header: Item { width: 1; height: search.implicitHeight }
         footer: Item { width: 1; height: 16 }
@@ -52,7 +57,7 @@ Item {
             required property int index
 
             onCopy: entries.history.copy(entryId)
-            onPressed: list.take(index)
+            onPressed: entries.take(index)
             onMenuRequested: position => list.openMenu(this, position)
         }
 
@@ -89,10 +94,6 @@ Item {
             if (row !== null && !isAutoRepeat)
                 entries.history.remove(row.entryId);
         }
-        function take(row) {
-            currentIndex = row;
-            forceActiveFocus();
-        }
         function page(direction) {
             const next = indexAt(10, Math.max(originY, contentY + direction * height) + height / 2);
             currentIndex = next >= 0 ? next : direction > 0 ? count - 1 : 0;
@@ -112,7 +113,7 @@ Item {
     }
 
     Column {
-        visible: entries.history.count === 0 && !entries.history.isSearching
+        visible: entries.history.rows.count === 0 && !entries.history.isSearching
         y: search.height + 60
         x: 24
         width: parent.width - 48

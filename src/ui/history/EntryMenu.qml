@@ -11,7 +11,7 @@ PaperMenu {
     required property HistoryModel history
     // The entry, whatever row it has by the time of the choice.
     property string entryId: ""
-    property var targets: []
+    property list<moveTarget> targets
     property Item focusBefore: null
 
     onAboutToShow: focusBefore = parent.Window.activeFocusItem
@@ -40,7 +40,7 @@ PaperMenu {
             onObjectRemoved: (index, object) => moveMenu.removeItem(object as PaperMenuItem)
 
             delegate: PaperMenuItem {
-                required property var modelData
+                required property moveTarget modelData
 
                 text: modelData.name
                 enabled: modelData.isEnabled

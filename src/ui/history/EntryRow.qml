@@ -14,8 +14,10 @@ FocusScope {
     required property bool isCopied
     required property bool showDivider
     readonly property bool isCurrent: ListView.isCurrentItem
-    readonly property ListView list: ListView.view
-    readonly property string selectedText: content.item !== null ? content.item.selectedText : ""
+    readonly property ListView list: ListView.view as ListView
+    readonly property EntryPiece shortText: content.item as EntryPiece
+    readonly property LongEntryText longText: content.item as LongEntryText
+    readonly property string selectedText: shortText?.selectedText ?? longText?.selectedText ?? ""
     // A text up to this length is laid out at once.
     readonly property bool isLong: text.length > 4000
 
@@ -23,10 +25,14 @@ FocusScope {
     signal menuRequested(point position)
     signal pressed
 
-    onEntryIdChanged: content.item?.deselect()
+    onEntryIdChanged: {
+        shortText?.deselect();
+        longText?.deselect();
+    }
 
     function selectAll() {
-        content.item.selectAll();
+        shortText?.selectAll();
+        longText?.selectAll();
     }
 
     height: content.y + content.height + 10 + pill.height + 18
@@ -60,11 +66,11 @@ FocusScope {
         x: 24 + 44 + 16
         y: 18
         width: row.width - x - 24
-        height: Math.max(item !== null ? item.textHeight : 0, 56 + 3 - 10 - pill.height)
-        sourceComponent: row.isLong ? longText : shortText
+        height: Math.max(row.shortText?.textHeight ?? row.longText?.textHeight ?? 0, 56 + 3 - 10 - pill.height)
+        sourceComponent: row.isLong ? longForm : shortForm
     }
     Component {
-        id: shortText
+        id: shortForm
 
         EntryPiece {
             content: row.text
@@ -72,7 +78,7 @@ FocusScope {
         }
     }
     Component {
-        id: longText
+        id: longForm
 
         LongEntryText {
             text: row.text

@@ -2,30 +2,42 @@
 #pragma once
 
 #include "platform/Clock.h"
-#include "store/TranscriptionStore.h"
-#include "ui/history/SearchIndex.h"
-#include "ui/windows/InPlaceListModel.h"
+#include "ui/history/HistoryRows.h"
 
-#include <QTimer>
-#include <QVariantList>
+#include <QList>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
-#include <optional>
-#include <vector>
 
-class GroupStore;
 class Pasteboard;
 
-/// The rows of the history window: the entries of the active group, newest first, narrowed by the search. Main thread
-/// only. A long search is made in slices between which the window stays alive; `isSearching` until it is done.
-class HistoryModel : public InPlaceListModel {
+/// A group that an entry can be moved to, as the entry's menu offers it.
+class MoveTarget {
+    Q_GADGET
+    QML_VALUE_TYPE(moveTarget)
+    Q_PROPERTY(QString name MEMBER name)
+    /// Empty for no group.
+    Q_PROPERTY(QString groupId MEMBER groupId)
+    /// The entry is not in it yet.
+    Q_PROPERTY(bool isEnabled MEMBER isEnabled)
+
+public:
+    QString name;
+    QString groupId;
+    bool isEnabled = false;
+
+    bool operator==(const MoveTarget &) const = default;
+};
+
+/// The history as its window observes it: the rows, the search that narrows them, and what can be done with an entry.
+/// Main thread only.
+class HistoryModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The window makes it")
+    Q_PROPERTY(HistoryRows *rows READ rows CONSTANT)
     Q_PROPERTY(QString search READ search WRITE setSearch NOTIFY searchChanged)
     Q_PROPERTY(bool isSearching READ isSearching NOTIFY isSearchingChanged)
-    Q_PROPERTY(int count READ rowCount NOTIFY rowsChanged)
     /// How many entries the group has, whatever the search: "5 entries".
     Q_PROPERTY(QString countText READ countText NOTIFY totalChanged)
     /// The group has no entries.
@@ -34,19 +46,15 @@ class HistoryModel : public InPlaceListModel {
     Q_PROPERTY(bool isLive READ isLive WRITE setLive NOTIFY isLiveChanged)
 
 public:
-    enum Role { EntryIdRole = Qt::UserRole, TextRole, DayRole, MonthRole, MetaRole, IsCopiedRole, ShowDividerRole };
-
+    /// Everything that is passed outlives the model.
     HistoryModel(TranscriptionStore &store, GroupStore &groups, Pasteboard &pasteboard, Clock &clock);
 
-    int rowCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
+    HistoryRows *rows() { return &m_rows; }
     const QString &search() const { return m_search; }
     void setSearch(const QString &search);
-    bool isSearching() const { return m_running.has_value(); }
+    bool isSearching() const { return m_rows.isSearching(); }
     QString countText() const;
-    bool isEmpty() const { return m_total == 0; }
+    bool isEmpty() const { return m_rows.total() == 0; }
     bool isLive() const { return m_minute != nullptr; }
     void setLive(bool isLive);
 
@@ -58,62 +66,26 @@ public:
     Q_INVOKABLE void remove(const QString &id);
     /// Files the entry under a group; under none when `groupId` is empty.
     Q_INVOKABLE void move(const QString &id, const QString &groupId);
-    /// What "Move to Group" offers for an entry, as objects with `name`, `groupId` and `isEnabled`.
-    Q_INVOKABLE QVariantList moveTargets(const QString &id) const;
+    /// What "Move to Group" offers for an entry.
+    Q_INVOKABLE QList<MoveTarget> moveTargets(const QString &id) const;
 
 Q_SIGNALS:
     void searchChanged();
     void isSearchingChanged();
-    void rowsChanged();
     void totalChanged();
     void isLiveChanged();
 
 private:
-    /// The serials (SearchIndex) of the rows; nothing stands for all entries.
-    using Rows = std::optional<std::vector<uint32_t>>;
-
-    /// The row's place in the store.
-    qsizetype placeOf(int row) const;
-    const Transcription &entry(int row) const;
     /// Null when the entry is gone.
     const Transcription *entry(const QString &id) const;
-    uint32_t serialOf(qsizetype place) const;
-    bool isInGroup(const Transcription &entry) const;
-    /// The name of the entry's group, where the row is to tell it.
-    std::optional<QString> groupName(const Transcription &entry) const;
-    QString meta(const Transcription &entry) const;
-    void onAdded();
-    void onChanged(qsizetype place);
-    void onRemoved(qsizetype place);
-    /// Starts over with the rows of the active group and the search. `within`, where given, are rows known to hold all
-    /// that the search can find.
-    void refresh(Rows within = {});
-    void setTotal(int total);
-    void replace(Rows rows);
-    void removeRow(int row);
-    void refreshRole(int role);
-    void setCopied(const QString &id);
     void startMinute();
-    /// Brings the index up to date, in slices; then goes on with the search.
-    void work();
-    void indexTexts(QDeadlineTimer deadline);
-    void searchOn(QDeadlineTimer deadline);
 
     TranscriptionStore &m_store;
     GroupStore &m_groups;
     Pasteboard &m_pasteboard;
     Clock &m_clock;
-    Rows m_rows;
-    int m_count = 0;
-    int m_total = 0;
+    HistoryRows m_rows;
     QString m_search;
-    /// The search without surrounding blanks.
-    QString m_query;
-    SearchIndex m_index;
-    std::optional<SearchIndex::Search> m_running;
-    std::vector<uint32_t> m_found;
-    QTimer m_worker;
-    QString m_copiedId;
     std::unique_ptr<Clock::Timer> m_copiedReset;
     std::unique_ptr<Clock::Timer> m_minute;
 };

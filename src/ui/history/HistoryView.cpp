@@ -31,8 +31,7 @@ std::unique_ptr<QWindow> HistoryView::makeWindow(QQmlEngine &engine, QObject &mo
                                 {u"history"_s, QVariant::fromValue(history.get())},
                                 {u"carousel"_s, QVariant::fromValue(carousel.get())},
                                 {u"editor"_s, QVariant::fromValue(editor.get())},
-                                {u"historyWindow"_s, QVariant::fromValue<QObject *>(&window)}});
-    history->setObjectName(u"history"_s);
+                                {u"historyWindow"_s, QVariant::fromValue(&window)}});
     history.release()->setParent(view.get());
     carousel.release()->setParent(view.get());
     editor.release()->setParent(view.get());

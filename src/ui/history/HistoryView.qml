@@ -10,7 +10,7 @@ Item {
     required property HistoryModel history
     required property GroupCarouselModel carousel
     required property GroupEditorModel editor
-    required property var historyWindow
+    required property HistoryWindow historyWindow
 
     implicitWidth: 460
     implicitHeight: 680

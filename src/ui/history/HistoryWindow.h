@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
 
 #include <functional>
 #include <memory>
@@ -15,6 +16,8 @@ class Screens;
 /// Its place is remembered under the preference "HistoryWindow". Main thread only.
 class HistoryWindow : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The program makes it")
     Q_PROPERTY(bool isVisible READ isVisible NOTIFY isVisibleChanged)
     Q_PROPERTY(bool isEditingGroups READ isEditingGroups WRITE setEditingGroups NOTIFY isEditingGroupsChanged)
 

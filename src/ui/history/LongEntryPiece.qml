@@ -18,9 +18,10 @@ Loader {
     readonly property int from: Math.max(0, Math.min(content.length, selectionStart - start))
     readonly property int to: Math.max(0, Math.min(content.length, selectionEnd - start))
     // Those at the top have not got their place yet, but for the first.
+    readonly property EntryPiece piece: item as EntryPiece
     readonly property bool isNear: (y > 0 || isFirst) && y < visibleBottom + 400 && y + pieceHeight > visibleTop - 400
 
-    height: item !== null ? item.textHeight + 4 : pieceHeight
+    height: piece !== null ? piece.textHeight + 4 : pieceHeight
     // What has been seen stays, so that scrolling back costs nothing.
     active: false
     onIsNearChanged: {
@@ -36,7 +37,7 @@ Loader {
     onLoaded: mark()
 
     function mark() {
-        (item as EntryPiece)?.select(from, to);
+        piece?.select(from, to);
     }
 
     sourceComponent: EntryPiece {

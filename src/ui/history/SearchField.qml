@@ -21,7 +21,7 @@ Item {
             id: symbol
 
             anchors { left: parent.left; leftMargin: 2; verticalCenter: parent.verticalCenter }
-            sourceSize: Qt.size(14, 14)
+            sourceSize { width: 14; height: 14 }
             source: "../style/symbols/magnifyingglass.svg"
         }
         T.TextField {
@@ -64,7 +64,7 @@ Item {
             Behavior on opacity { NumberAnimation { duration: 150 } }
 
             contentItem: Image {
-                sourceSize: Qt.size(14, 14)
+                sourceSize { width: 14; height: 14 }
                 fillMode: Image.Pad
                 source: "../style/symbols/xmark.circle.fill.svg"
             }

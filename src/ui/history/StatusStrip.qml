@@ -32,7 +32,7 @@ Column {
             Image {
                 visible: strip.model.state === "idle"
                 anchors.centerIn: parent
-                sourceSize: Qt.size(16, 16)
+                sourceSize { width: 16; height: 16 }
                 source: "../style/symbols/waveform.svg"
             }
             Spinner {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/windows/InPlaceListModel.h"
+#include "ui/models/InPlaceListModel.h"
 
 #include <QDeadlineTimer>
 #include <QFont>

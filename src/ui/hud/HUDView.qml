@@ -79,7 +79,7 @@ Item {
 
                 visible: !view.isRecording && !view.isTranscribing
                 anchors.verticalCenter: parent.verticalCenter
-                sourceSize: Qt.size(15, 15)
+                sourceSize { width: 15; height: 15 }
                 source: view.isProblem ? "../style/symbols/exclamationmark.circle.fill.svg"
                       : view.isGroup ? "../style/symbols/folder.fill.svg" : "../style/symbols/checkmark.circle.fill.svg"
             }

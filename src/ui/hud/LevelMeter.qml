@@ -7,7 +7,8 @@ Row {
     id: meter
 
     property real level: 0
-    property var weights: []
+    // How far each bar rises.
+    property list<real> weights
 
     spacing: 2
     height: 18

@@ -24,7 +24,7 @@ Item {
 
         visible: row.isWarning
         anchors { left: parent.left; leftMargin: 10; verticalCenter: parent.verticalCenter }
-        sourceSize: Qt.size(14, 14)
+        sourceSize { width: 14; height: 14 }
         source: SystemColors.isDark ? "../style/symbols/exclamationmark.triangle.fill.svg" : "../style/symbols/exclamationmark.triangle.fill.light.svg"
     }
     Note {

@@ -13,7 +13,7 @@ FormRow {
     Image {
         visible: row.isGranted
         anchors.verticalCenter: parent.verticalCenter
-        sourceSize: Qt.size(15, 15)
+        sourceSize { width: 15; height: 15 }
         source: SystemColors.isDark ? "../style/symbols/checkmark.circle.fill.svg" : "../style/symbols/checkmark.circle.fill.light.svg"
     }
     Value {

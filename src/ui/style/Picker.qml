@@ -42,7 +42,7 @@ T.ComboBox {
     indicator: Image {
         x: picker.width - width - 7
         anchors.verticalCenter: parent.verticalCenter
-        sourceSize: Qt.size(12, 12)
+        sourceSize { width: 12; height: 12 }
         source: "symbols/chevron.up.chevron.down.svg"
     }
     background: RoundedRectangle {

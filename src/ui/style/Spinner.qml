@@ -23,6 +23,8 @@ Item {
         model: 8
 
         Rectangle {
+            id: spoke
+
             required property int index
 
             x: 7
@@ -32,7 +34,7 @@ Item {
             radius: 1
             color: spinner.color
             opacity: 1 - ((spinner.step - index + 8) % 8) * 0.11
-            transform: Rotation { origin.x: 1; origin.y: 7; angle: index * 45 }
+            transform: Rotation { origin.x: 1; origin.y: 7; angle: spoke.index * 45 }
         }
     }
 }
