@@ -137,6 +137,17 @@ void Database::reconnect()
     }
 }
 
+/// Connected, and with SQLite set to wait for the disk or not, which is possible between transactions only.
+Database &Database::readyFor(bool isVolatile)
+{
+    reconnect();
+    if (!m_postgreSql && isVolatile != m_volatile) {
+        command(isVolatile ? u"PRAGMA synchronous = NORMAL"_s : u"PRAGMA synchronous = FULL"_s);
+        m_volatile = isVolatile;
+    }
+    return *this;
+}
+
 QString Database::inDialect(QString sql) const
 {
     return sql.replace(u"{blob}"_s, m_postgreSql ? u"BYTEA"_s : u"BLOB"_s)
@@ -234,18 +245,18 @@ qint64 Database::change(const QString &sql, const Row &values)
     return rows;
 }
 
-Transaction::Transaction(Database &database, Kind kind) : m_database(database)
+/// From here on the destructor ends what has begun, also when the rest of the other constructor fails.
+Transaction::Transaction(Database &database, Begin) : m_database(database)
 {
-    const auto isVolatile = kind == Kind::Volatile;
     // What will write takes SQLite's write lock at its beginning: later, it could find that another process was faster.
-    database.reconnect();
-    if (isVolatile != database.m_volatile && !database.m_postgreSql) {
-        database.command(isVolatile ? u"PRAGMA synchronous = NORMAL"_s : u"PRAGMA synchronous = FULL"_s);
-        database.m_volatile = isVolatile;
-    }
     database.command(database.m_postgreSql ? u"BEGIN ISOLATION LEVEL READ COMMITTED"_s : u"BEGIN IMMEDIATE"_s);
     database.m_inTransaction = true;
-    if (isVolatile && database.m_postgreSql) {
+}
+
+Transaction::Transaction(Database &database, Kind kind)
+    : Transaction(database.readyFor(kind == Kind::Volatile), Begin{})
+{
+    if (kind == Kind::Volatile && database.m_postgreSql) {
         database.command(u"SET LOCAL synchronous_commit = off"_s);
     }
 }

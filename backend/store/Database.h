@@ -24,8 +24,8 @@ class Database {
 public:
     /// `location` begins with "postgresql://" (libpq's URI form; one host, options in the query, which may set other
     /// limits than the 5 s to connect and the 10 s for a statement), or is the path of a file that is created when it
-    /// is missing, readable by its owner only. Brings the tables up to date, also when
-    /// several processes do so at once. Throws StoreError.
+    /// is missing, readable by its owner only. Brings the tables up to date, also when several processes do so at once.
+    /// Throws StoreError.
     explicit Database(QString location);
     ~Database();
     Database(const Database &) = delete;
@@ -45,6 +45,7 @@ private:
     void open();
     void writeAhead();
     void reconnect();
+    Database &readyFor(bool isVolatile);
     void migrate();
     /// For what the databases can't prepare: transactions, tables, settings.
     void command(const QString &sql);
@@ -77,5 +78,8 @@ public:
     void commit();
 
 private:
+    struct Begin {};
+    Transaction(Database &database, Begin);
+
     Database &m_database;
 };

@@ -48,7 +48,6 @@ protected:
     std::unique_ptr<ServerProgram> start() const
     {
         return std::make_unique<ServerProgram>(
-            QStringLiteral(QUILLO_BACKEND_PROGRAM),
             QStringList{u"--database"_s, database.location(), u"--engine=openai"_s, u"--registrations-per-hour=0"_s,
                         u"--free-tokens=100"_s, u"--openai-base-url"_s, QString::fromStdString(upstreamServer.url())});
     }
@@ -89,7 +88,7 @@ TEST_P(MeteringTest, ChargesWhatWasDeliveredAndNothingElseHoweverOftenItIsKilled
     for (int round = 0; round < rounds; ++round) {
         // Some milliseconds after that request has come in, it is anywhere between the engine and the reply.
         const auto delay = std::chrono::microseconds(std::uniform_int_distribution(0, 4000)(random));
-        const auto process = static_cast<pid_t>(server->processId());
+        const auto process = static_cast<pid_t>(server->pid());
         std::jthread killer;
         upstream.atLast = [&] {
             killer = std::jthread([=] {

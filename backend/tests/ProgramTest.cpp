@@ -166,15 +166,15 @@ TEST_F(ProgramTest, WarnsOfWhatOthersCanReadOrTake)
     QFile::setPermissions(key, QFile::ReadOwner | QFile::ReadOther);
     EXPECT_THAT(run(command).errors, testing::HasSubstr("can read " + key.toStdString()));
 
-    testing::internal::CaptureStderr();
-    ServerProgram(QStringLiteral(QUILLO_BACKEND_PROGRAM),
-                  {u"--database"_s, database, u"--address=0.0.0.0"_s, u"--public-url=http://quillo.test"_s});
-    EXPECT_THAT(testing::internal::GetCapturedStderr(), testing::HasSubstr("give themselves tokens"));
+    ServerProgram everywhere({u"--database"_s, database, u"--address=0.0.0.0"_s, u"--public-url=http://quillo.test"_s});
+    EXPECT_EQ(everywhere.stop(), 0);
+    EXPECT_THAT(everywhere.process().readAllStandardError().toStdString(),
+                testing::HasSubstr("give themselves tokens"));
 }
 
 TEST_F(ProgramTest, ServesWhileItsOperatorLooksAfterTheDevices)
 {
-    ServerProgram server(QStringLiteral(QUILLO_BACKEND_PROGRAM), {u"--database"_s, database, u"--free-tokens=5"_s});
+    ServerProgram server({u"--database"_s, database, u"--free-tokens=5"_s});
     EXPECT_EQ(QFile::permissions(QFileInfo(database).path()) & (QFile::ExeGroup | QFile::ExeOther), 0);
     const auto device = registeredAt(server.port());
     const auto id = QString::fromStdString(device).section(u' ', 2).section(u'.', 0, 0);
@@ -207,8 +207,8 @@ TEST_F(ProgramTest, RefusesATranscriptionThatOutlastsItsStop)
     boost::asio::io_context io;
     boost::asio::ip::tcp::acceptor upstream(io, {boost::asio::ip::address_v4::loopback(), 0});
     const auto url = u"http://127.0.0.1:%1"_s.arg(upstream.local_endpoint().port());
-    ServerProgram server(QStringLiteral(QUILLO_BACKEND_PROGRAM), {u"--database"_s, database, u"--stop-timeout=0"_s,
-                                                                  u"--engine=openai"_s, u"--openai-base-url"_s, url});
+    ServerProgram server(
+        {u"--database"_s, database, u"--stop-timeout=0"_s, u"--engine=openai"_s, u"--openai-base-url"_s, url});
     auto client = server.connect();
     const auto body = multipart(tone());
     client.write("POST /v1/transcribe HTTP/1.1\r\nHost: test\r\n" + registeredAt(server.port()) +

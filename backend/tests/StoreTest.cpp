@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/Migrations.h"
 #include "store/StoreThreads.h"
+#include "support/DatabaseLine.h"
 #include "support/TestDatabase.h"
 
 #include <QDir>
@@ -205,18 +206,23 @@ TEST_P(StoreTest, ServesOneDeviceAndOnePoolThroughManyConnectionsAtOnce)
     EXPECT_THAT(store->ledger.unexplained(), testing::IsEmpty());
 }
 
-TEST_P(StoreTest, ConnectsAnewAfterTheConnectionWasLost)
+TEST_P(StoreTest, ConnectsAnewAfterTheConnectionWasLostAtAnyStatement)
 {
     if (GetParam() == DatabaseKind::Sqlite) {
         GTEST_SKIP() << "a file has no connection to lose";
     }
-    const auto store = open();
-    const auto device = store->devices.add(u"linux"_s);
-    open()->database.select(u"SELECT pg_terminate_backend(pid) FROM pg_stat_activity"
-                            " WHERE datname = current_database() AND pid <> pg_backend_pid()"_s);
-    EXPECT_THROW(store->ledger.hold(device.deviceId, 1), StoreError);
-    EXPECT_TRUE(store->ledger.hold(device.deviceId, 1));
-    EXPECT_TRUE(store->devices.authenticate(credential(device)));
+    const auto device = open()->devices.add(u"linux"_s);
+    for (const auto *const statement :
+         {"BEGIN ISOLATION", "SET LOCAL synchronous", "UPDATE devices SET held", "COMMIT"}) {
+        DatabaseLine line(database.location());
+        SCOPED_TRACE(statement);
+        Store store(line.location(), {}, [this] { return now; });
+        line.cutAt(statement);
+        EXPECT_THROW(store.ledger.hold(device.deviceId, 1), StoreError);
+        line.mend();
+        EXPECT_TRUE(store.devices.authenticate(credential(device)));
+        EXPECT_TRUE(store.ledger.hold(device.deviceId, 1));
+    }
 }
 
 TEST_P(StoreTest, LimitsAStatementUnlessItsLocationDoes)
