@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "api/Api.h"
 #include "app/Options.h"
 #include "engine/OpenAiEngine.h"
-#include "http/Api.h"
 #include "http/Server.h"
 
 #include <boost/asio/ip/tcp.hpp>

@@ -3,7 +3,6 @@
 
 #include "support/Log.h"
 
-#include <QScopeGuard>
 #include <boost/asio/redirect_error.hpp>
 #include <boost/asio/write.hpp>
 #include <boost/beast/http/error.hpp>
@@ -65,6 +64,13 @@ Message messageOf(Reply &reply, unsigned version, bool keepAlive)
 
 } // namespace
 
+/// One request on its way to its reply.
+struct Connection::Exchange {
+    RequestParser parser;
+    Request request; ///< from its header on
+    AccessRecord record;
+};
+
 Connection::Connection(net::ip::tcp::socket socket, RequestHandler &handler, const ServerOptions &options,
                        BodyMemory &bodies, const Server::AccessLog &log)
     : m_stream(std::move(socket)),
@@ -81,22 +87,22 @@ Connection::Connection(net::ip::tcp::socket socket, RequestHandler &handler, con
 
 void Connection::finish()
 {
-    m_last = m_stopping = true;
+    m_stopping = true;
     beast::error_code error;
-    if (m_idle && m_fresh) {
+    if (m_state == State::Fresh) {
         m_stream.expires_after(lastChance);
-    } else if (m_receiving || (m_idle && m_stream.socket().available(error) == 0)) {
+    } else if (m_state == State::Body || (m_state == State::Idle && m_stream.socket().available(error) == 0)) {
         m_stream.cancel();
     }
 }
 
 void Connection::abandon()
 {
-    if (!m_handling) {
+    if (m_state != State::Handling) {
         m_stream.cancel();
         return;
     }
-    m_abandoned = true;
+    m_state = State::Abandoned;
     auto reply = Refusal::serverBusy().reply();
     std::ostringstream bytes;
     bytes << messageOf(reply, standardVersion, false);
@@ -110,9 +116,9 @@ void Connection::abandon()
 net::awaitable<void> Connection::run()
 {
     try {
-        do {
-            co_await serveOne();
-        } while (!m_last);
+        while (co_await serveOne()) {
+            m_state = State::Idle;
+        }
         co_await close();
     } catch (const beast::system_error &) {
         // The client went away or was too slow; there is nobody to tell.
@@ -121,86 +127,86 @@ net::awaitable<void> Connection::run()
     }
 }
 
-net::awaitable<void> Connection::serveOne()
+net::awaitable<bool> Connection::serveOne()
 {
     co_await waitForRequest();
     const auto started = Clock::now();
-    RequestParser parser;
-    AccessRecord record;
+    Exchange exchange;
+    exchange.request.address = m_peer;
     std::exception_ptr tooSlow;
+    bool mayFollow = false;
     try {
-        co_await serve(parser, record);
+        mayFollow = co_await serve(exchange);
     } catch (const beast::system_error &error) {
         if (error.code() != beast::error_code(beast::error::timeout)) {
             throw;
         }
-        record.status = static_cast<unsigned>(http::status::request_timeout);
+        exchange.record.status = static_cast<unsigned>(http::status::request_timeout);
         tooSlow = std::current_exception();
     }
-    if (parser.is_header_done()) {
-        record.method = std::string(parser.get().method_string());
+    auto &record = exchange.record;
+    if (!exchange.request.method.empty()) {
+        record.method = exchange.request.method;
     }
-    record.address = clientAddress(parser, m_peer, m_options.trustedProxies).to_string();
+    record.address = exchange.request.address.to_string();
     record.duration = std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - started);
     m_log(record);
     if (tooSlow) {
         std::rethrow_exception(tooSlow);
     }
+    co_return mayFollow;
 }
 
 net::awaitable<void> Connection::waitForRequest()
 {
-    m_idle = true;
     while (m_buffer.size() == 0) {
-        m_stream.expires_after(m_last ? std::chrono::milliseconds(lastChance) : m_options.idle);
+        m_stream.expires_after(m_stopping ? std::chrono::milliseconds(lastChance) : m_options.idle);
         const auto count = co_await m_stream.async_read_some(m_buffer.prepare(4096), net::use_awaitable);
         m_buffer.commit(count);
     }
-    m_idle = false;
-    m_fresh = false;
+    m_state = State::Header;
 }
 
-net::awaitable<void> Connection::serve(RequestParser &parser, AccessRecord &record)
+net::awaitable<bool> Connection::serve(Exchange &exchange)
 {
     BodyMemory::Share memory(m_bodies);
-    auto refusal = co_await read(parser, memory);
-    m_last = m_last || refusal || !parser.get().keep_alive();
+    auto &[parser, request, record] = exchange;
+    auto refusal = co_await read(exchange, memory);
     record.received = parser.get().body().size();
     Reply reply;
     if (refusal) {
         reply = std::move(*refusal);
         parser.get().body() = {};
     } else {
-        auto request = takeRequest(parser, clientAddress(parser, m_peer, m_options.trustedProxies));
-        request.connected = [this] { return isConnected(); };
-        m_buffer.shrink_to_fit();
-        m_stream.expires_never();
-        m_handling = true;
-        reply = co_await m_handler.handle(request);
-        m_handling = false;
+        reply = co_await handle(exchange);
     }
     memory.release();
+    const auto isAbandoned = m_state == State::Abandoned;
+    m_state = State::Replying;
     record.route = reply.route;
-    record.status = m_abandoned ? Refusal::serverBusy().reply().status : reply.status;
+    record.status = isAbandoned ? Refusal::serverBusy().reply().status : reply.status;
     record.sent = reply.body.size();
-    record.delivered = !m_abandoned && co_await write(reply, parser);
+    const auto keepAlive = !refusal && parser.get().keep_alive() && !m_stopping;
+    record.delivered = !isAbandoned && co_await write(reply, parser, keepAlive);
     co_await tellSent(reply, record.delivered);
     if (refusal) {
         co_await discardBody(parser, record.received);
     }
+    co_return keepAlive &&record.delivered;
 }
 
-net::awaitable<std::optional<Reply>> Connection::read(RequestParser &parser, BodyMemory::Share &memory)
+net::awaitable<std::optional<Reply>> Connection::read(Exchange &exchange, BodyMemory::Share &memory)
 {
-    auto refusal = co_await readHeader(parser);
-    if (!refusal && !parser.is_done()) {
-        refusal = co_await readBody(parser, memory);
+    auto refusal = co_await readHeader(exchange);
+    if (!refusal && !exchange.parser.is_done()) {
+        refusal = co_await readBody(exchange, memory);
     }
     co_return refusal;
 }
 
-net::awaitable<std::optional<Reply>> Connection::readHeader(RequestParser &parser)
+net::awaitable<std::optional<Reply>> Connection::readHeader(Exchange &exchange)
 {
+    auto &parser = exchange.parser;
     limitHeader(parser);
     m_stream.expires_after(m_options.header);
     beast::error_code error;
@@ -208,21 +214,24 @@ net::awaitable<std::optional<Reply>> Connection::readHeader(RequestParser &parse
     if (auto refusal = replyTo(error)) {
         co_return refusal;
     }
-    if (!isFramedClearly(parser)) {
+    // Now, and not when the body is there too: the parser adds the lines that follow a chunked body to the header, and
+    // no proxy has looked at those.
+    exchange.request = headOf(parser, clientAddress(parser, m_peer, m_options.trustedProxies));
+    if (!isUnambiguous(parser)) {
         co_return Refusal::badRequest().reply();
     }
     co_return std::nullopt;
 }
 
-net::awaitable<std::optional<Reply>> Connection::readBody(RequestParser &parser, BodyMemory::Share &memory)
+net::awaitable<std::optional<Reply>> Connection::readBody(Exchange &exchange, BodyMemory::Share &memory)
 {
-    const auto head = headOf(parser, clientAddress(parser, m_peer, m_options.trustedProxies));
-    const auto limit = m_handler.bodyLimit(head.path);
+    auto &parser = exchange.parser;
+    const auto limit = m_handler.bodyLimit(exchange.request.path);
     const auto announced = parser.content_length().value_or(0);
     if (announced > limit) {
         co_return Refusal::tooLarge().reply();
     }
-    if (auto refusal = co_await m_handler.admit(head)) {
+    if (auto refusal = co_await m_handler.admit(exchange.request)) {
         co_return refusal;
     }
     if (m_stopping || !m_bodies.has(announced)) {
@@ -232,8 +241,7 @@ net::awaitable<std::optional<Reply>> Connection::readBody(RequestParser &parser,
     co_await allowBody(parser);
     const auto deadline = Clock::now() + m_options.body;
     beast::error_code error;
-    m_receiving = true;
-    const auto received = qScopeGuard([this] { m_receiving = false; });
+    m_state = State::Body;
     while (!parser.is_done()) {
         if (m_stopping) {
             co_return Refusal::serverBusy().reply();
@@ -260,16 +268,26 @@ net::awaitable<void> Connection::allowBody(const RequestParser &parser)
     }
 }
 
-net::awaitable<bool> Connection::write(Reply &reply, const RequestParser &parser)
+net::awaitable<Reply> Connection::handle(Exchange &exchange)
 {
-    auto message = messageOf(reply, parser.is_header_done() ? parser.get().version() : standardVersion, !m_last);
+    auto &request = exchange.request;
+    request.body = std::move(exchange.parser.get().body());
+    request.connected = [this] { return isConnected(); };
+    m_buffer.shrink_to_fit();
+    m_stream.expires_never();
+    m_state = State::Handling;
+    co_return co_await m_handler.handle(request);
+}
+
+net::awaitable<bool> Connection::write(Reply &reply, const RequestParser &parser, bool keepAlive)
+{
+    auto message = messageOf(reply, parser.is_header_done() ? parser.get().version() : standardVersion, keepAlive);
     if (parser.get().method() == http::verb::head) {
         message.body().clear(); // its length stays in the header
     }
     beast::error_code error;
     m_stream.expires_after(m_options.stall);
     co_await http::async_write(m_stream, message, net::redirect_error(net::use_awaitable, error));
-    m_last = m_last || error;
     co_return !error;
 }
 

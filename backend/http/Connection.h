@@ -26,15 +26,28 @@ public:
     void abandon();
 
 private:
-    net::awaitable<void> serveOne();
+    enum class State {
+        Fresh,     ///< waits for the first request
+        Idle,      ///< waits for a further one
+        Header,    ///< reads one
+        Body,      ///< reads one
+        Handling,  ///< the handler works on a request that was read whole
+        Abandoned, ///< the handler still does, and the client has been refused in its place
+        Replying,
+    };
+    struct Exchange;
+
+    /// Whether a further request may follow.
+    net::awaitable<bool> serveOne();
     net::awaitable<void> waitForRequest();
-    net::awaitable<void> serve(RequestParser &parser, AccessRecord &record);
+    net::awaitable<bool> serve(Exchange &exchange);
     /// The reply to a request that is refused as it comes, or nothing when it was read whole.
-    net::awaitable<std::optional<Reply>> read(RequestParser &parser, BodyMemory::Share &memory);
-    net::awaitable<std::optional<Reply>> readHeader(RequestParser &parser);
-    net::awaitable<std::optional<Reply>> readBody(RequestParser &parser, BodyMemory::Share &memory);
+    net::awaitable<std::optional<Reply>> read(Exchange &exchange, BodyMemory::Share &memory);
+    net::awaitable<std::optional<Reply>> readHeader(Exchange &exchange);
+    net::awaitable<std::optional<Reply>> readBody(Exchange &exchange, BodyMemory::Share &memory);
     net::awaitable<void> allowBody(const RequestParser &parser);
-    net::awaitable<bool> write(Reply &reply, const RequestParser &parser);
+    net::awaitable<Reply> handle(Exchange &exchange);
+    net::awaitable<bool> write(Reply &reply, const RequestParser &parser, bool keepAlive);
     net::awaitable<void> tellSent(Reply &reply, bool delivered);
     net::awaitable<void> discardBody(const RequestParser &parser, size_t received);
     net::awaitable<void> discard(size_t bytes, std::chrono::milliseconds time);
@@ -48,11 +61,6 @@ private:
     const ServerOptions &m_options;
     BodyMemory &m_bodies;
     const Server::AccessLog &m_log;
-    bool m_idle = true;
-    bool m_fresh = true;      ///< no request has begun
-    bool m_receiving = false; ///< a body
-    bool m_handling = false;
-    bool m_last = false; ///< the connection ends with this request
-    bool m_stopping = false;
-    bool m_abandoned = false;
+    State m_state = State::Fresh;
+    bool m_stopping = false; ///< the request that is read or handled is the last
 };

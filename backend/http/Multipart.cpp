@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "http/Multipart.h"
 
+#include <cstdint> // which rfc7230.hpp of Boost 1.83 needs
+
 #include <boost/beast/core/string.hpp>
 #include <boost/beast/http/rfc7230.hpp>
 

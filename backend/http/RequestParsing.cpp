@@ -2,6 +2,7 @@
 #include "http/RequestParsing.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace http = boost::beast::http;
 
@@ -12,6 +13,16 @@ constexpr uint32_t largestHeader = 16'384;
 std::string text(boost::beast::string_view view)
 {
     return {view.data(), view.size()};
+}
+
+/// A name or an address, with or without a port; or nothing, as in requests that name no host.
+bool isHost(std::string_view value)
+{
+    const auto isAllowed = [](char c) {
+        return std::isalnum(static_cast<unsigned char>(c)) != 0 ||
+               std::string_view("-._~%:[]").find(c) != std::string_view::npos;
+    };
+    return std::ranges::all_of(value, isAllowed);
 }
 
 } // namespace
@@ -34,11 +45,17 @@ net::ip::address unmapped(const net::ip::address &address)
                : address;
 }
 
-bool isFramedClearly(const RequestParser &parser)
+bool isUnambiguous(const RequestParser &parser)
 {
+    const auto &message = parser.get();
+    const auto codings = message.count(http::field::transfer_encoding);
+    const auto hosts = message.count(http::field::host);
+    constexpr unsigned hostRequired = 11; // HTTP/1.1
     // The parser refuses a length beside "chunked", and takes a request with any other coding to have no body.
-    const auto [first, last] = parser.get().equal_range(http::field::transfer_encoding);
-    return std::all_of(first, last, [](const auto &line) { return boost::beast::iequals(line.value(), "chunked"); });
+    return message.count(http::field::content_length) <= 1 && codings <= 1 &&
+           (codings == 0 || (message.version() >= hostRequired &&
+                             boost::beast::iequals(message[http::field::transfer_encoding], "chunked"))) &&
+           hosts <= 1 && (hosts == 1 || message.version() < hostRequired) && isHost(text(message[http::field::host]));
 }
 
 net::ip::address clientAddress(const RequestParser &parser, const net::ip::address &peer,
@@ -74,11 +91,4 @@ Request headOf(const RequestParser &parser, const net::ip::address &address)
             text(message["Stripe-Signature"]),
             {},
             {}};
-}
-
-Request takeRequest(RequestParser &parser, const net::ip::address &address)
-{
-    auto request = headOf(parser, address);
-    request.body = std::move(parser.get().body());
-    return request;
 }

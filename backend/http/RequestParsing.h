@@ -19,8 +19,8 @@ std::string pathOf(std::string_view target);
 /// An IPv4 address in the form it has without IPv6.
 net::ip::address unmapped(const net::ip::address &address);
 
-/// Whether the request's body begins and ends where every server on its way would say so.
-bool isFramedClearly(const RequestParser &parser);
+/// Whether every server on the request's way reads it alike: where its body ends, and for which host it is.
+bool isUnambiguous(const RequestParser &parser);
 
 /// The client behind `peer`, when that is one of the trusted proxies and says so: the last address in the
 /// X-Forwarded-For header's lines, taken together, that is none of theirs.
@@ -29,6 +29,3 @@ net::ip::address clientAddress(const RequestParser &parser, const net::ip::addre
 
 /// Without the body.
 Request headOf(const RequestParser &parser, const net::ip::address &address);
-
-/// Takes the body out of the parser, which has read it whole.
-Request takeRequest(RequestParser &parser, const net::ip::address &address);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "http/Api.h"
+#include "api/Api.h"
 #include "http/AccessLog.h"
 #include "support/Audio.h"
 #include "support/HttpClient.h"
@@ -349,22 +349,30 @@ TEST_P(ApiTest, KeepsAConnectionUntilARequestIsMalformed)
     EXPECT_EQ(client.send("GET", "/v1/balance", device).balance(), 10);
     EXPECT_EQ(client.sendRaw("nonsense\r\n\r\n").error(), "bad_request");
     EXPECT_TRUE(client.isClosedByServer());
-    for (const auto *const framing :
-         {"Transfer-Encoding: gzip\r\n", "Transfer-Encoding: gzip, chunked\r\n", "Transfer-Encoding: identity\r\n",
-          "Transfer-Encoding: gzip\r\nContent-Length: 2\r\n", "Content-Length: 2\r\nTransfer-Encoding: chunked\r\n",
-          "Transfer-Encoding: chunked\r\nContent-Length: 2\r\n", "Content-Length: 2\r\nContent-Length: 3\r\n"}) {
+    for (const std::string header :
+         {"Transfer-Encoding: gzip", "Transfer-Encoding: gzip, chunked", "Transfer-Encoding: identity",
+          "Transfer-Encoding: gzip\r\nContent-Length: 2", "Content-Length: 2\r\nTransfer-Encoding: chunked",
+          "Transfer-Encoding: chunked\r\nContent-Length: 2", "Transfer-Encoding: chunked\r\nTransfer-Encoding: chunked",
+          "Content-Length: 2\r\nContent-Length: 3", "Content-Length: 2\r\nContent-Length: 2", "Content-Length: -2",
+          "Host: other", "Host: test"}) {
         auto other = connect();
-        const auto answer =
-            other.sendRaw("POST /v1/devices HTTP/1.1\r\nHost: test\r\n" + std::string(framing) + "\r\n");
-        EXPECT_EQ(answer.error(), "bad_request") << framing;
-        EXPECT_TRUE(other.isClosedByServer()) << framing;
+        const auto answer = other.sendRaw("POST /v1/devices HTTP/1.1\r\nHost: test\r\n" + header + "\r\n\r\n");
+        EXPECT_EQ(answer.error(), "bad_request") << header;
+        EXPECT_TRUE(other.isClosedByServer()) << header;
     }
+    for (const std::string head :
+         {"1.1\r\n", "1.1\r\nHost: a b\r\n", "1.1\r\nHost: user@test\r\n", "1.0\r\nTransfer-Encoding: chunked\r\n"}) {
+        EXPECT_EQ(connect().sendRaw("GET /v1/balance HTTP/" + head + "\r\n").error(), "bad_request") << head;
+    }
+    EXPECT_EQ(connect().sendRaw("GET /v1/balance HTTP/1.0\r\n\r\n").status, 401); // needs no host
+    EXPECT_EQ(connect().sendRaw("GET /v1/balance HTTP/1.1\r\nHost: [::1]:80\r\n\r\n").status, 401);
 }
 
 TEST_P(ApiTest, ClosesConnectionsThatAreIdleOrTooSlow)
 {
     start({.server = {.idle = 20ms, .header = 20ms, .stall = 1h, .body = 20ms}});
-    for (const auto *const beginning : {"", "GET /v1/bal", "POST /v1/devices HTTP/1.1\r\nContent-Length: 9\r\n\r\n{"}) {
+    for (const auto *const beginning :
+         {"", "GET /v1/bal", "POST /v1/devices HTTP/1.1\r\nHost: test\r\nContent-Length: 9\r\n\r\n{"}) {
         auto client = connect();
         client.write(beginning);
         EXPECT_TRUE(client.isClosedByServer()) << beginning;
@@ -387,6 +395,12 @@ TEST_P(ApiTest, LimitsTheRegistrationsOfAnAddressBehindATrustedProxyToo)
     EXPECT_EQ(refused.status, 429);
     EXPECT_EQ(refused.error(), "too_many_registrations");
     EXPECT_THAT(std::stoi(refused.retryAfter), testing::AllOf(testing::Le(1800), testing::Gt(1700)));
+    EXPECT_EQ(connect() // nor what follows a chunked body, which proxies pass on
+                  .sendRaw("POST /v1/devices HTTP/1.1\r\nHost: test\r\nX-Forwarded-For: 192.0.2.1\r\n"
+                           "Transfer-Encoding: chunked\r\n\r\n10\r\n{\"platform\":\"x\"}\r\n0\r\n"
+                           "X-Forwarded-For: 192.0.2.40\r\n\r\n")
+                  .status,
+              429);
     EXPECT_EQ(attempt("192.0.2.2").status, 200);
     EXPECT_EQ(attempt("2001:db8::1").status, 200);
     EXPECT_EQ(attempt("2001:db8::2").status, 200);

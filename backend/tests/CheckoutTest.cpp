@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "http/Api.h"
+#include "api/Api.h"
 #include "support/HttpClient.h"
 #include "support/RunningServer.h"
 #include "support/TestDatabase.h"

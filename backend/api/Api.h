@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "http/CheckoutEndpoints.h"
-#include "http/DeviceEndpoints.h"
-#include "http/TranscribeEndpoint.h"
+#include "api/CheckoutEndpoints.h"
+#include "api/DeviceEndpoints.h"
+#include "api/TranscribeEndpoint.h"
 
 struct ApiOptions {
     TranscribeEndpoint::Options transcription = {};

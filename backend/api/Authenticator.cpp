@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "http/Authenticator.h"
+#include "api/Authenticator.h"
 
 #include <boost/beast/core/string.hpp>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "http/Api.h"
+#include "api/Api.h"
 
 #include "support/Log.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "http/DeviceEndpoints.h"
+#include "api/DeviceEndpoints.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

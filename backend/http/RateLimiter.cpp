@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/RateLimiter.h"
+#include "http/RateLimiter.h"
 
 #include <algorithm>
 

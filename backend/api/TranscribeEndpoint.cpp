@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "http/TranscribeEndpoint.h"
+#include "api/TranscribeEndpoint.h"
 
 #include "http/Multipart.h"
 #include "support/Log.h"
 
 #include <QJsonObject>
+#include <boost/asio/any_io_executor.hpp>
+#include <boost/asio/detached.hpp>
 #include <boost/asio/steady_timer.hpp>
 #include <boost/asio/this_coro.hpp>
 
-#include <exception>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -22,7 +24,48 @@ Reply transcript(const QString &words, qint64 balance)
     return jsonReply({{u"text"_s, words}, {u"balance"_s, balance}});
 }
 
+Refusal clientClosed()
+{
+    return {400, "client_closed", "The connection was closed early."};
+}
+
+/// The tokens are free again in any case when the hold lapses.
+net::awaitable<void> release(StoreThreads &store, Ledger::Hold hold)
+{
+    try {
+        co_await store.run([&](Store &kept) {
+            kept.ledger.release(hold);
+            return true;
+        });
+    } catch (const StoreError &error) {
+        logLine(error.what());
+    }
+}
+
 } // namespace
+
+/// Tokens that are set aside for a recording, and let go of with this unless they were taken, when `hold` is empty.
+struct TranscribeEndpoint::HeldTokens {
+    HeldTokens(net::any_io_executor executor, StoreThreads &store, Ledger::Hold held)
+        : hold(std::move(held)), m_executor(std::move(executor)), m_store(store)
+    {
+    }
+    /// Does not wait until they are free.
+    ~HeldTokens()
+    {
+        if (!hold.id.isEmpty()) {
+            net::co_spawn(m_executor, release(m_store, std::move(hold)), net::detached);
+        }
+    }
+    HeldTokens(const HeldTokens &) = delete;
+    HeldTokens &operator=(const HeldTokens &) = delete;
+
+    Ledger::Hold hold;
+
+private:
+    net::any_io_executor m_executor;
+    StoreThreads &m_store;
+};
 
 TranscribeEndpoint::TranscribeEndpoint(Options options, StoreThreads &store, Transcriber &transcriber, Metrics &metrics)
     : m_options(options), m_store(store), m_authenticator(store), m_transcriber(transcriber), m_metrics(metrics)
@@ -58,47 +101,39 @@ net::awaitable<Reply> TranscribeEndpoint::transcribe(const Request &request)
         throw Refusal::engineBusy().retryAfter(busyDelay);
     }
     const auto inspection = co_await inspect(*file);
-    const auto cost = inspection.startedSeconds * m_options.tokensPerSecond;
-    auto hold = co_await m_store.run([&](Store &store) { return store.ledger.hold(device.id, cost); });
+    const auto tokens = co_await hold(device, inspection.startedSeconds * m_options.tokensPerSecond);
+    QString words;
+    if (inspection.mayHoldSpeech) {
+        words = co_await textOf(*file, request);
+    }
+    if (!request.connected()) {
+        throw clientClosed();
+    }
+    if (words.isEmpty()) { // what brings no text is free
+        const auto left = co_await m_store.run([&](Store &store) { return store.ledger.balance(device.id); });
+        co_return transcript(words, left);
+    }
+    const auto balance = co_await m_store.run([&](Store &store) { return store.ledger.deliver(tokens->hold); });
+    if (!balance) {
+        throw Refusal::insufficientTokens(); // the hold lapsed, and the tokens went elsewhere
+    }
+    auto reply = transcript(words, *balance);
+    reply.sent = [this, tokens, seconds = inspection.startedSeconds](bool delivered) -> net::awaitable<void> {
+        if (delivered) {
+            co_await charge(*tokens, seconds);
+        }
+    };
+    co_return reply;
+}
+
+net::awaitable<std::shared_ptr<TranscribeEndpoint::HeldTokens>> TranscribeEndpoint::hold(const Device &device,
+                                                                                         qint64 tokens)
+{
+    auto hold = co_await m_store.run([&](Store &store) { return store.ledger.hold(device.id, tokens); });
     if (!hold) {
         throw Refusal::insufficientTokens();
     }
-    std::optional<QString> words = QString();
-    std::optional<qint64> balance;
-    std::exception_ptr failure;
-    try {
-        if (inspection.mayHoldSpeech) {
-            words = co_await textOf(*file, request);
-        }
-        // What brought no text is free, and so is what nobody waits for any more.
-        if (words && !words->isEmpty() && request.connected()) {
-            balance = co_await m_store.run([&](Store &store) { return store.ledger.deliver(*hold); });
-        }
-    } catch (...) {
-        failure = std::current_exception();
-    }
-    if (!balance) {
-        co_await release(*hold);
-        if (failure) {
-            std::rethrow_exception(failure);
-        }
-        if (!request.connected()) {
-            throw Refusal(400, "client_closed", "The connection was closed early.");
-        }
-        if (!words) {
-            throw Refusal::engineBusy().retryAfter(busyDelay); // the server stops before the recording's turn
-        }
-        if (!words->isEmpty()) {
-            throw Refusal::insufficientTokens(); // the hold lapsed, and the tokens went elsewhere
-        }
-        const auto left = co_await m_store.run([&](Store &store) { return store.ledger.balance(device.id); });
-        co_return transcript(QString(), left);
-    }
-    auto reply = transcript(*words, *balance);
-    reply.sent = [this, held = *hold, seconds = inspection.startedSeconds](bool delivered) {
-        return delivered ? charge(held, seconds) : release(held);
-    };
-    co_return reply;
+    co_return std::make_shared<HeldTokens>(co_await net::this_coro::executor, m_store, std::move(*hold));
 }
 
 net::awaitable<Inspection> TranscribeEndpoint::inspect(std::string_view file)
@@ -110,13 +145,13 @@ net::awaitable<Inspection> TranscribeEndpoint::inspect(std::string_view file)
     }
 }
 
-net::awaitable<std::optional<QString>> TranscribeEndpoint::textOf(std::string_view file, const Request &request)
+net::awaitable<QString> TranscribeEndpoint::textOf(std::string_view file, const Request &request)
 {
     const auto started = std::chrono::steady_clock::now();
     try {
         const auto words = co_await m_transcriber.transcribe(file, request.connected);
-        if (!words) {
-            co_return std::nullopt;
+        if (!words) { // because the client has gone, or the server stops before the recording's turn
+            throw request.connected() ? Refusal::engineBusy().retryAfter(busyDelay) : clientClosed();
         }
         m_metrics.engineRan(std::chrono::steady_clock::now() - started, true);
         co_return words->trimmed();
@@ -129,14 +164,15 @@ net::awaitable<std::optional<QString>> TranscribeEndpoint::textOf(std::string_vi
 }
 
 /// Tries until the tokens are taken: the client has its transcript. However often that is, it happens once.
-net::awaitable<void> TranscribeEndpoint::charge(Ledger::Hold hold, qint64 seconds)
+net::awaitable<void> TranscribeEndpoint::charge(HeldTokens &tokens, qint64 seconds)
 {
     net::steady_timer pause(co_await net::this_coro::executor);
     auto delay = m_options.chargeDelay;
     for (int attempt = 1; attempt <= m_options.chargeAttempts; ++attempt) {
         try {
-            const auto tokens = co_await m_store.run([&](Store &store) { return store.ledger.settle(hold); });
-            m_metrics.delivered(seconds, tokens);
+            const auto taken = co_await m_store.run([&](Store &store) { return store.ledger.settle(tokens.hold); });
+            m_metrics.delivered(seconds, taken);
+            tokens.hold = {};
             co_return;
         } catch (const StoreError &error) {
             m_metrics.chargeFailed();
@@ -147,17 +183,4 @@ net::awaitable<void> TranscribeEndpoint::charge(Ledger::Hold hold, qint64 second
         delay *= 2;
     }
     logLine("a delivered transcript was not charged");
-}
-
-/// The tokens are free again in any case when the hold lapses.
-net::awaitable<void> TranscribeEndpoint::release(Ledger::Hold hold)
-{
-    try {
-        co_await m_store.run([&](Store &store) {
-            store.ledger.release(hold);
-            return true;
-        });
-    } catch (const StoreError &error) {
-        logLine(error.what());
-    }
 }

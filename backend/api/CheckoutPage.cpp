@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "http/CheckoutPage.h"
+#include "api/CheckoutPage.h"
 
 #include <QLocale>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "api/Authenticator.h"
 #include "engine/Transcriber.h"
-#include "http/Authenticator.h"
 #include "http/Metrics.h"
 #include "http/Router.h"
 
@@ -25,12 +25,14 @@ public:
     void addTo(Router &router);
 
 private:
+    struct HeldTokens;
+
     net::awaitable<Reply> transcribe(const Request &request);
     net::awaitable<Device> payingDevice(const Request &request) const;
     net::awaitable<Inspection> inspect(std::string_view file);
-    net::awaitable<std::optional<QString>> textOf(std::string_view file, const Request &request);
-    net::awaitable<void> charge(Ledger::Hold hold, qint64 seconds);
-    net::awaitable<void> release(Ledger::Hold hold);
+    net::awaitable<std::shared_ptr<HeldTokens>> hold(const Device &device, qint64 tokens);
+    net::awaitable<QString> textOf(std::string_view file, const Request &request);
+    net::awaitable<void> charge(HeldTokens &tokens, qint64 seconds);
 
     Options m_options;
     StoreThreads &m_store;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "http/Authenticator.h"
+#include "api/Authenticator.h"
+#include "http/RateLimiter.h"
 #include "http/Router.h"
-#include "support/RateLimiter.h"
 
 /// Registration and balance.
 class DeviceEndpoints {

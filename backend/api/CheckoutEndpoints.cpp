@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "http/CheckoutEndpoints.h"
+#include "api/CheckoutEndpoints.h"
 
 #include "payment/StripeWebhook.h"
 #include "support/Log.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "http/Authenticator.h"
-#include "http/CheckoutPage.h"
+#include "api/Authenticator.h"
+#include "api/CheckoutPage.h"
 #include "http/Router.h"
 #include "payment/StripeClient.h"
 
