@@ -2,6 +2,7 @@
 #include "platform/audio/AacFile.h"
 
 #include "platform/LocalizedError.h"
+#include "platform/audio/silenceLibav.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -24,20 +25,20 @@ LocalizedError cantStart()
     return LocalizedError(u"Couldn't start the microphone."_s);
 }
 
-bool canEncode(const AVCodec *codec, const AudioSettings &settings)
+/// Opening the encoder refuses other sample rates by itself, but not a bit rate that it can't reach.
+bool canEncode(const AudioSettings &settings)
 {
-    if (settings.formatId != "aac " || settings.channels != 1 || settings.bitRate <= 0 || settings.sampleRate <= 0) {
-        return false;
-    }
-    for (const int *rate = codec->supported_samplerates; *rate != 0; ++rate) {
-        if (*rate == settings.sampleRate) {
-            return int64_t(settings.bitRate) * samplesPerFrame <= int64_t(maxBitsPerFrame) * *rate;
-        }
-    }
-    return false;
+    return settings.formatId == "aac " && settings.channels == 1 && settings.bitRate > 0 &&
+           int64_t(settings.bitRate) * samplesPerFrame <= int64_t(maxBitsPerFrame) * settings.sampleRate;
 }
 
-int writeFile(void *file, uint8_t *bytes, int size)
+#if LIBAVFORMAT_VERSION_MAJOR >= 61
+using WrittenByte = const uint8_t;
+#else
+using WrittenByte = uint8_t;
+#endif
+
+int writeFile(void *file, WrittenByte *bytes, int size)
 {
     const auto written = static_cast<QFile *>(file)->write(reinterpret_cast<const char *>(bytes), size);
     return written == size ? size : AVERROR(EIO);
@@ -82,7 +83,7 @@ void AacFile::Release::operator()(AVPacket *packet) const
 
 AacFile::AacFile(const QString &path, const AudioSettings &settings) : m_file(path)
 {
-    av_log_set_level(AV_LOG_ERROR); // the encoder reports its statistics on standard error otherwise
+    silenceLibav();
     openEncoder(settings);
     openContainer();
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered,
@@ -103,10 +104,9 @@ void AacFile::openEncoder(const AudioSettings &settings)
     m_encoder.reset(codec ? avcodec_alloc_context3(codec) : nullptr);
     m_frame.reset(av_frame_alloc());
     m_packet.reset(av_packet_alloc());
-    if (!m_encoder || !m_frame || !m_packet || !canEncode(codec, settings)) {
+    if (!m_encoder || !m_frame || !m_packet || !canEncode(settings)) {
         throw cantStart();
     }
-    m_encoder->profile = FF_PROFILE_AAC_LOW;
     m_encoder->sample_fmt = AV_SAMPLE_FMT_FLTP;
     m_encoder->sample_rate = settings.sampleRate;
     m_encoder->time_base = {1, settings.sampleRate};

@@ -60,9 +60,14 @@ std::vector<float> decode(const QString &path)
 
 double frequency(const std::vector<float> &samples, int rate)
 {
-    int rises = 0;
-    for (size_t i = 1; i < samples.size(); ++i) {
-        rises += samples[i - 1] < 0 && samples[i] >= 0 ? 1 : 0;
+    constexpr float noise = 0.02F; // of an encoder, around a silence
+    std::vector<size_t> rises;
+    bool isLow = false;
+    for (size_t i = 0; i < samples.size(); ++i) {
+        if (isLow && samples[i] > noise) {
+            rises.push_back(i);
+        }
+        isLow = samples[i] < -noise || (isLow && samples[i] <= noise);
     }
-    return double(rises) * rate / double(samples.size());
+    return rises.size() < 2 ? 0 : double(rises.size() - 1) * rate / double(rises.back() - rises.front());
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/audio/SoundExamination.h"
+#include "platform/audio/examineSound.h"
 
 #include "platform/Clock.h"
 #include "platform/LocalizedError.h"

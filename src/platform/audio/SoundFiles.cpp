@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "platform/audio/LibavSoundFiles.h"
+#include "platform/audio/SoundFiles.h"
 
 #include "platform/LocalizedError.h"
 #include "platform/audio/AacFile.h"
+#include "platform/audio/silenceLibav.h"
 
 #include <QFile>
 #include <QFileInfo>
 
-#include <vector>
+#include <algorithm>
+#include <span>
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -77,11 +79,16 @@ public:
 private:
     const AVStream &stream() const { return *m_input->streams[m_stream]; }
 
+    /// 0 to 1; -1 where the file does not say. A recorded broadcast starts at any time, not at zero.
     double partUntil(const AVPacket &packet) const
     {
         const auto length = static_cast<double>(m_input->duration);
-        const bool isKnown = length > 0 && packet.pts != AV_NOPTS_VALUE;
-        return isKnown ? static_cast<double>(packet.pts) * av_q2d(stream().time_base) * AV_TIME_BASE / length : -1;
+        if (length <= 0 || packet.pts == AV_NOPTS_VALUE) {
+            return -1;
+        }
+        const auto start = m_input->start_time == AV_NOPTS_VALUE ? 0 : static_cast<double>(m_input->start_time);
+        const double time = static_cast<double>(packet.pts) * av_q2d(stream().time_base) * AV_TIME_BASE;
+        return std::clamp((time - start) / length, 0.0, 1.0);
     }
 
     template <typename Take> bool drain(const Take &take)
@@ -97,35 +104,26 @@ private:
     /// Without a frame: what the resampler still holds.
     template <typename Take> bool convert(const AVFrame *frame, const Take &take)
     {
-        if (frame != nullptr && !m_resampler) {
-            openResampler(*frame);
-        }
-        if (!m_resampler) {
+        if (frame == nullptr && swr_is_initialized(m_resampler.get()) == 0) {
             return true;
         }
-        const int incoming = frame != nullptr ? frame->nb_samples : 0;
-        m_samples.resize(static_cast<size_t>(swr_get_out_samples(m_resampler.get(), incoming)));
-        auto *out = reinterpret_cast<uint8_t *>(m_samples.data());
-        const int count =
-            swr_convert(m_resampler.get(), &out, static_cast<int>(m_samples.size()),
-                        frame != nullptr ? const_cast<const uint8_t **>(frame->extended_data) : nullptr, incoming);
-        return count <= 0 || take(std::span<const float>(m_samples.data(), static_cast<size_t>(count)));
-    }
-
-    void openResampler(const AVFrame &frame)
-    {
-        AVChannelLayout mono;
-        av_channel_layout_default(&mono, 1);
-        AVChannelLayout from = {};
-        av_channel_layout_copy(&from, &frame.ch_layout);
-        SwrContext *resampler = nullptr;
-        const int made = swr_alloc_set_opts2(&resampler, &mono, AV_SAMPLE_FMT_FLT, m_sampleRate, &from,
-                                             static_cast<AVSampleFormat>(frame.format), frame.sample_rate, 0, nullptr);
-        av_channel_layout_uninit(&from);
-        m_resampler.reset(resampler);
-        if (made < 0 || swr_init(resampler) < 0) {
+        av_frame_unref(m_converted.get());
+        av_channel_layout_default(&m_converted->ch_layout, 1);
+        m_converted->format = AV_SAMPLE_FMT_FLT;
+        m_converted->sample_rate = m_sampleRate;
+        const int result = swr_convert_frame(m_resampler.get(), m_converted.get(), frame);
+        if (result == AVERROR_INPUT_CHANGED) { // a broadcast goes from stereo to mono and back
+            if (!convert(nullptr, take)) {
+                return false;
+            }
+            swr_close(m_resampler.get()); // the next call sets it up for the frame it gets
+            return convert(frame, take);
+        }
+        if (result < 0) {
             throw LocalizedError(u"The sound of %1 can't be converted."_s.arg(m_name));
         }
+        const auto count = static_cast<size_t>(m_converted->nb_samples);
+        return count == 0 || take(std::span(reinterpret_cast<const float *>(m_converted->data[0]), count));
     }
 
     QString m_name;
@@ -133,20 +131,20 @@ private:
     int m_stream = -1;
     Handle<AVFormatContext> m_input;
     Handle<AVCodecContext> m_decoder;
-    Handle<SwrContext> m_resampler;
+    Handle<SwrContext> m_resampler{swr_alloc()};
     Handle<AVFrame> m_frame{av_frame_alloc()};
-    std::vector<float> m_samples;
+    Handle<AVFrame> m_converted{av_frame_alloc()};
 };
 
 } // namespace
 
-void LibavSoundFiles::convert(const QString &source, const QString &destination, const AudioSettings &settings,
-                              const Progress &progress)
+void SoundFiles::convert(const QString &source, const QString &destination, const AudioSettings &settings,
+                         const Progress &progress)
 {
     if (const QFile file(source); !file.exists()) {
         throw LocalizedError(u"There is no file %1."_s.arg(source));
     }
-    av_log_set_level(AV_LOG_FATAL); // what is wrong with a file is said in our own words
+    silenceLibav();
     SoundReader reader(source, settings.sampleRate);
     AacFile file(destination, settings);
     bool hasSound = false;
