@@ -2,16 +2,13 @@
 #include "platform/freedesktop/LibsecretStore.h"
 
 #include <QCoroFuture>
-#include <QPromise>
+#include <QtConcurrentRun>
 
 #include <libsecret/secret.h>
 
-#include <memory>
 #include <utility>
 
 namespace {
-
-using Secret = std::optional<QByteArray>;
 
 const SecretSchema *schema()
 {
@@ -21,120 +18,98 @@ const SecretSchema *schema()
     return schema;
 }
 
-/// Hands one answer of libsecret to the coroutine that waits for it; libsecret owns it until then.
-template <typename T> class Answer {
-public:
-    Answer() { m_promise.start(); }
-    QFuture<T> future() const { return m_promise.future(); }
-
-    static void deliver(gpointer self, T value)
-    {
-        const std::unique_ptr<Answer> answer(static_cast<Answer *>(self));
-        answer->m_promise.addResult(std::move(value));
-        answer->m_promise.finish();
-    }
-
-private:
-    QPromise<T> m_promise;
-};
-
-void retrieved(GObject *source, GAsyncResult *result, gpointer answer)
+/// libsecret keeps its session with the service and learns from GLib's event loop when that service is another one.
+void startAnew()
 {
-    g_autoptr(GError) error = nullptr;
-    SecretValue *value = secret_retrievable_retrieve_secret_finish(SECRET_RETRIEVABLE(source), result, &error);
-    Secret secret;
-    if (value != nullptr) {
-        gsize length = 0;
-        const gchar *bytes = secret_value_get(value, &length);
-        secret = QByteArray(bytes, qsizetype(length));
-        secret_value_unref(value);
-    }
-    Answer<Secret>::deliver(answer, std::move(secret));
+    secret_service_disconnect();
 }
 
-void found(GObject * /*source*/, GAsyncResult *result, gpointer answer)
+std::optional<QByteArray> readNow(const QByteArray &service, const QByteArray &account, GCancellable *end)
 {
+    startAnew();
     g_autoptr(GError) error = nullptr;
-    GList *items = secret_password_search_finish(result, &error);
-    if (items == nullptr) {
-        Answer<Secret>::deliver(answer, std::nullopt);
-        return;
-    }
-    secret_retrievable_retrieve_secret(SECRET_RETRIEVABLE(items->data), nullptr, retrieved, answer);
+    // Unlike a look-up, a search leaves what is locked as it is.
+    GList *items = secret_password_search_sync(schema(), SECRET_SEARCH_NONE, end, &error, "service",
+                                               service.constData(), "account", account.constData(), nullptr);
+    g_autoptr(SecretValue) value =
+        items == nullptr ? nullptr
+                         : secret_retrievable_retrieve_secret_sync(SECRET_RETRIEVABLE(items->data), end, nullptr);
     g_list_free_full(items, g_object_unref);
+    if (value == nullptr) {
+        return std::nullopt;
+    }
+    gsize length = 0;
+    const gchar *bytes = secret_value_get(value, &length);
+    return QByteArray(bytes, qsizetype(length));
 }
 
 /// The collection that new items go to. `Unknown`: there is no service to ask.
 enum class Collection { Unlocked, Locked, Absent, Unknown };
 
-void collectionFound(GObject * /*source*/, GAsyncResult *result, gpointer answer)
+Collection defaultCollection(GCancellable *end)
 {
+    startAnew();
     g_autoptr(GError) error = nullptr;
-    g_autoptr(SecretCollection) collection = secret_collection_for_alias_finish(result, &error);
-    auto state = error == nullptr ? Collection::Absent : Collection::Unknown;
-    if (collection != nullptr) {
-        state = secret_collection_get_locked(collection) == TRUE ? Collection::Locked : Collection::Unlocked;
+    g_autoptr(SecretService) service = secret_service_get_sync(SECRET_SERVICE_NONE, end, &error);
+    g_autoptr(SecretCollection) collection =
+        service == nullptr
+            ? nullptr
+            : secret_collection_for_alias_sync(service, SECRET_COLLECTION_DEFAULT, SECRET_COLLECTION_NONE, end, &error);
+    if (collection == nullptr) {
+        return error == nullptr ? Collection::Absent : Collection::Unknown;
     }
-    Answer<Collection>::deliver(answer, state);
+    return secret_collection_get_locked(collection) == TRUE ? Collection::Locked : Collection::Unlocked;
 }
 
-QCoro::Task<Collection> defaultCollection()
+bool addNow(const QByteArray &service, const QByteArray &account, const QByteArray &secret, GCancellable *end)
 {
-    auto *answer = new Answer<Collection>;
-    const QFuture<Collection> future = answer->future();
-    secret_collection_for_alias(nullptr, SECRET_COLLECTION_DEFAULT, SECRET_COLLECTION_NONE, nullptr, collectionFound,
-                                answer);
-    co_return co_await future;
+    g_autoptr(SecretValue) value = secret_value_new(secret.constData(), secret.size(), "text/plain");
+    return secret_password_store_binary_sync(schema(), SECRET_COLLECTION_DEFAULT, "Quillo device credential", value,
+                                             end, nullptr, "service", service.constData(), "account",
+                                             account.constData(), nullptr) == TRUE;
 }
 
-void stored(GObject * /*source*/, GAsyncResult *result, gpointer answer)
+bool removeNow(const QByteArray &service, const QByteArray &account, GCancellable *end)
 {
+    startAnew();
     g_autoptr(GError) error = nullptr;
-    Answer<bool>::deliver(answer, secret_password_store_finish(result, &error) == TRUE);
-}
-
-void cleared(GObject * /*source*/, GAsyncResult *result, gpointer answer)
-{
-    g_autoptr(GError) error = nullptr;
-    secret_password_clear_finish(result, &error);
-    Answer<bool>::deliver(answer, error == nullptr);
+    secret_password_clear_sync(schema(), end, &error, "service", service.constData(), "account", account.constData(),
+                               nullptr);
+    return error == nullptr;
 }
 
 } // namespace
 
+void LibsecretStore::Unref::operator()(GCancellable *cancellable) const
+{
+    g_object_unref(cancellable);
+}
+
+LibsecretStore::LibsecretStore() : m_end(g_cancellable_new()) {}
+
+LibsecretStore::~LibsecretStore()
+{
+    g_cancellable_cancel(m_end.get());
+    m_threads.waitForDone();
+}
+
 QCoro::Task<std::optional<QByteArray>> LibsecretStore::read(QString service, QString account)
 {
-    auto *answer = new Answer<Secret>;
-    const QFuture<Secret> future = answer->future();
-    // Unlike a look-up, a search leaves what is locked as it is.
-    secret_password_search(schema(), SECRET_SEARCH_NONE, nullptr, found, answer, "service",
-                           service.toUtf8().constData(), "account", account.toUtf8().constData(), nullptr);
-    co_return co_await future;
+    co_return co_await QtConcurrent::run(&m_threads, readNow, service.toUtf8(), account.toUtf8(), m_end.get());
 }
 
 QCoro::Task<bool> LibsecretStore::add(QString service, QString account, QByteArray secret)
 {
     // To store in a locked collection is to ask for its password, in the middle of whatever the user is doing.
-    const Collection collection = co_await defaultCollection();
+    const Collection collection = co_await QtConcurrent::run(&m_threads, defaultCollection, m_end.get());
     const bool isRefused = collection == Collection::Absent && std::exchange(m_hasAskedForCollection, true);
     if (collection == Collection::Locked || isRefused) {
         co_return false;
     }
-    auto *answer = new Answer<bool>;
-    const QFuture<bool> future = answer->future();
-    SecretValue *value = secret_value_new(secret.constData(), secret.size(), "text/plain");
-    secret_password_store_binary(schema(), SECRET_COLLECTION_DEFAULT, "Quillo device credential", value, nullptr,
-                                 stored, answer, "service", service.toUtf8().constData(), "account",
-                                 account.toUtf8().constData(), nullptr);
-    secret_value_unref(value);
-    co_return co_await future;
+    co_return co_await QtConcurrent::run(&m_threads, addNow, service.toUtf8(), account.toUtf8(), secret, m_end.get());
 }
 
 QCoro::Task<bool> LibsecretStore::remove(QString service, QString account)
 {
-    auto *answer = new Answer<bool>;
-    const QFuture<bool> future = answer->future();
-    secret_password_clear(schema(), nullptr, cleared, answer, "service", service.toUtf8().constData(), "account",
-                          account.toUtf8().constData(), nullptr);
-    co_return co_await future;
+    co_return co_await QtConcurrent::run(&m_threads, removeNow, service.toUtf8(), account.toUtf8(), m_end.get());
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/freedesktop/SecretExamination.h"
+#include "platform/freedesktop/examineSecretService.h"
 
 #include <libsecret/secret.h>
 
