@@ -6,7 +6,7 @@
 #include "app/start/Services.h"
 #include "app/start/TerminationSignals.h"
 #include "audio/AudioRecorder.h"
-#include "platform/audio/LibavSoundFiles.h"
+#include "platform/audio/SoundFiles.h"
 
 #include <QCoreApplication>
 #include <QCoroFuture>
@@ -113,15 +113,15 @@ private:
                 if (isSpooled) {
                     spoolInput(m_spool, m_isStopped);
                 }
-                m_soundFiles.convert(source, m_recording, AudioRecorder::settings(),
-                                     [this, shown = -1](double part) mutable {
-                                         const int percent = static_cast<int>(part * 100);
-                                         if (part >= 0 && percent != shown) {
-                                             shown = percent;
-                                             Output::progress(u"Reading… %1 %"_s.arg(percent));
-                                         }
-                                         return !m_isStopped;
-                                     });
+                SoundFiles::convert(source, m_recording, AudioRecorder::settings(),
+                                    [this, shown = -1](double part) mutable {
+                                        const int percent = static_cast<int>(part * 100);
+                                        if (part >= 0 && percent != shown) {
+                                            shown = percent;
+                                            Output::progress(u"Reading… %1 %"_s.arg(percent));
+                                        }
+                                        return !m_isStopped;
+                                    });
             } catch (const LocalizedError &error) {
                 failure = error;
             }
@@ -144,7 +144,6 @@ private:
     }
 
     Services &m_services;
-    LibavSoundFiles m_soundFiles;
     QString m_recording = AudioRecorder::newPath(m_services.files);
     QTemporaryFile m_spool{m_services.files.temporaryFolder() + u"/quillo-input-XXXXXX"_s};
     std::atomic<bool> m_isStopped = false;
@@ -160,7 +159,7 @@ QCoro::Task<void> finishWith(QCoro::Task<int> work)
 
 } // namespace
 
-int transcribeCommand(const QString &path)
+int TranscribeCommand::run(const QString &path)
 {
     Services services;
     Transcription transcription(services);

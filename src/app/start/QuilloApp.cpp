@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/start/QuilloApp.h"
 
+#include "app/commands/ActCommand.h"
 #include "app/commands/CommandLine.h"
-#include "app/commands/Doctor.h"
-#include "app/commands/InstanceCommands.h"
+#include "app/commands/DoctorCommand.h"
 #include "app/commands/Output.h"
+#include "app/commands/RunningInstance.h"
+#include "app/commands/StatusCommand.h"
 #include "app/commands/TranscribeCommand.h"
 #include "app/remote/RemoteControl.h"
 #include "app/start/AppDelegate.h"
@@ -27,14 +29,20 @@ struct Arguments {
     char **values;
 };
 
+/// A second start shows the history of the program that runs.
+int bringForward(const QDBusConnection &bus)
+{
+    const auto failure = RunningInstance(bus).bringForward();
+    return failure ? Output::fail(failure->sentence, failure->status) : ExitStatus::done;
+}
+
 int start(Arguments arguments)
 {
     if (const auto refusal = DisplayChoice::refusal()) {
         // A program that runs can be reopened from where another could not be started, such as a bare terminal.
         const QCoreApplication application(arguments.count, arguments.values);
         const QDBusConnection bus = QDBusConnection::sessionBus();
-        return RemoteControl::isRunning(bus) ? InstanceCommands::activate(bus)
-                                             : Output::fail(*refusal, ExitStatus::failed);
+        return RunningInstance(bus).isThere() ? bringForward(bus) : Output::fail(*refusal, ExitStatus::failed);
     }
     DisplayChoice::prepare();
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
@@ -48,7 +56,7 @@ int start(Arguments arguments)
     RemoteControl remote(bus);
     switch (remote.claim()) {
     case RemoteControl::Claim::IsSecond:
-        return InstanceCommands::activate(bus);
+        return bringForward(bus);
     case RemoteControl::Claim::NoBus:
         Output::fail(
             u"There is no session bus: no tray item but XEmbed's, no keyring, and commands can't reach Quillo."_s,
@@ -76,7 +84,7 @@ int doctor(Arguments arguments)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen"); // it looks at the display without using it
     const QGuiApplication application(arguments.count, arguments.values);
-    return doctorCommand();
+    return DoctorCommand::run();
 }
 
 template <typename... Cases> struct Overloaded : Cases... {
@@ -97,32 +105,28 @@ int QuilloApp::run(int argc, char *argv[])
         words.append(QString::fromLocal8Bit(argv[place]));
     }
     Arguments own{1, argv};
-    const auto onBus = [&own](const auto &action) {
-        const QCoreApplication application(own.count, own.values);
-        return action(QDBusConnection::sessionBus());
-    };
-    return std::visit(
-        Overloaded{
-            [&](const CommandLine::Start &) { return start(own); },
-            [&](const CommandLine::Print &print) {
-                Output::print(print.text);
-                return ExitStatus::done;
-            },
-            [&](const CommandLine::Act &act) {
-                return onBus([&](const QDBusConnection &bus) { return InstanceCommands::act(bus, act.action); });
-            },
-            [&](const CommandLine::Status &status) {
-                return onBus(
-                    [&](const QDBusConnection &bus) { return InstanceCommands::printStatus(bus, status.asJson); });
-            },
-            [&](const CommandLine::Transcribe &transcribe) {
-                const QCoreApplication application(own.count, own.values);
-                return transcribeCommand(transcribe.path);
-            },
-            [&](const CommandLine::Doctor &) { return doctor(own); },
-            [&](const CommandLine::Mistake &mistake) {
-                return Output::fail(mistake.text + u" See: quillo --help"_s, ExitStatus::usage);
-            },
-        },
-        CommandLine::parse(words, QCoreApplication::applicationVersion()));
+    return std::visit(Overloaded{
+                          [&](const CommandLine::Start &) { return start(own); },
+                          [&](const CommandLine::Print &print) {
+                              Output::print(print.text);
+                              return ExitStatus::done;
+                          },
+                          [&](const CommandLine::Act &act) {
+                              const QCoreApplication application(own.count, own.values);
+                              return ActCommand::run(act.action);
+                          },
+                          [&](const CommandLine::Status &status) {
+                              const QCoreApplication application(own.count, own.values);
+                              return StatusCommand::run(status.asJson);
+                          },
+                          [&](const CommandLine::Transcribe &transcribe) {
+                              const QCoreApplication application(own.count, own.values);
+                              return TranscribeCommand::run(transcribe.path);
+                          },
+                          [&](const CommandLine::Doctor &) { return doctor(own); },
+                          [&](const CommandLine::Mistake &mistake) {
+                              return Output::fail(mistake.text + u" See: quillo --help"_s, ExitStatus::usage);
+                          },
+                      },
+                      CommandLine::parse(words, QCoreApplication::applicationVersion()));
 }

@@ -4,7 +4,7 @@
 #include "Panel.h"
 #include "platform/KeyCodes.h"
 #include "platform/tray/StatusNotifierItem.h"
-#include "platform/tray/TrayExamination.h"
+#include "platform/tray/examineTray.h"
 #include "support/Await.h"
 #include "support/Printing.h"
 #include "support/Session.h"

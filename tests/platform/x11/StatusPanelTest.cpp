@@ -2,8 +2,8 @@
 #include "FakeClock.h"
 #include "TestClient.h"
 #include "platform/x11/X11Backend.h"
-#include "platform/x11/connection/X11Examination.h"
 #include "platform/x11/connection/X11Extensions.h"
+#include "platform/x11/connection/examineX11.h"
 #include "platform/x11/windows/TerminalClasses.h"
 #include "support/Await.h"
 
@@ -169,12 +169,15 @@ TEST(X11BackendTest, AServerThatPostsNoKeysIsNotTrustedAndTheExaminationSaysSo)
     FakeClock clock;
     QString whyNot;
     const auto lesser = X11Backend::create(clock, {}, &whyNot);
-    const QStringList found = lacking(examineX11(DictationShortcutKind::Combination));
+    const QStringList found = lacking(examineX11(DictationShortcutKind::Combination).findings);
     display->use();
     ASSERT_TRUE(lesser) << qPrintable(whyNot);
     EXPECT_FALSE(lesser->accessibility().isTrusted());
-    EXPECT_EQ(found, (QStringList{QStringLiteral("Key posting"), QStringLiteral("Window manager")}));
-    EXPECT_EQ(lacking(examineX11(DictationShortcutKind::Combination)), QStringList());
+    EXPECT_EQ(found,
+              (QStringList{QStringLiteral("Key posting"), QStringLiteral("Window manager"), QStringLiteral("xterm")}));
+    run(QStringLiteral("xrdb"), {QStringLiteral("-merge"), QStringLiteral("-nocpp")}, display->environment(),
+        "XTerm*VT100.translations: #override Ctrl Shift <Key>V: insert-selection(CLIPBOARD)\n");
+    EXPECT_EQ(lacking(examineX11(DictationShortcutKind::Combination).findings), QStringList());
 }
 
 TEST(X11BackendTest, TheExaminationNamesTheExtensionWithoutWhichThereIsNoBackend)
@@ -182,9 +185,10 @@ TEST(X11BackendTest, TheExaminationNamesTheExtensionWithoutWhichThereIsNoBackend
     const VirtualDisplay server(VirtualDisplay::WindowManager::None,
                                 {QStringLiteral("-extension"), QStringLiteral("XFIXES")});
     server.use();
-    const QStringList found = lacking(examineX11(DictationShortcutKind::Combination));
+    const QStringList found = lacking(examineX11(DictationShortcutKind::Combination).findings);
     display->use();
-    EXPECT_EQ(found, (QStringList{QStringLiteral("Clipboard!"), QStringLiteral("Window manager")}));
+    EXPECT_EQ(found,
+              (QStringList{QStringLiteral("Clipboard!"), QStringLiteral("Window manager"), QStringLiteral("xterm")}));
 }
 
 TEST(X11BackendTest, TheExaminationTellsWhatTheDictationShortcutCannotDoWithout)

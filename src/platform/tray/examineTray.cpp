@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/tray/TrayExamination.h"
+#include "platform/tray/examineTray.h"
 
 #include <QDBusInterface>
 

@@ -1,21 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "app/commands/Doctor.h"
+#include "app/commands/DoctorCommand.h"
 
 #include "app/commands/CommandLine.h"
-#include "app/commands/InstanceCommands.h"
 #include "app/commands/Output.h"
+#include "app/commands/RunningInstance.h"
 #include "app/model/StoredShortcut.h"
-#include "app/remote/RemoteControl.h"
 #include "app/start/DisplayChoice.h"
 #include "app/start/Services.h"
 #include "app/start/TerminationSignals.h"
 #include "audio/AudioRecorder.h"
 #include "platform/Finding.h"
-#include "platform/audio/SoundExamination.h"
-#include "platform/freedesktop/SecretExamination.h"
-#include "platform/tray/TrayExamination.h"
+#include "platform/audio/examineSound.h"
+#include "platform/freedesktop/examineSecretService.h"
+#include "platform/tray/examineTray.h"
 #include "platform/x11/X11Backend.h"
-#include "platform/x11/connection/X11Examination.h"
+#include "platform/x11/connection/examineX11.h"
 #include "platform/x11/windows/TerminalClasses.h"
 #include "service/HttpTransport.h"
 #include "shortcuts/CarbonHotKey.h"
@@ -28,8 +27,6 @@
 #include <QJsonDocument>
 #include <QTimer>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -39,9 +36,9 @@ using Use = StoredShortcut::Use;
 
 constexpr auto backendPatience = std::chrono::seconds(10);
 
-bool isRunning()
+RunningInstance runningInstance()
 {
-    return RemoteControl::isRunning(QDBusConnection::sessionBus());
+    return RunningInstance(QDBusConnection::sessionBus());
 }
 
 /// Without its shortcut no dictation begins; the others are a convenience.
@@ -56,15 +53,16 @@ const QString chooseAnother = u"choose another one in the settings"_s;
 QList<Finding> heldHotKeyFindings()
 {
     const QString subject = u"Hot keys"_s;
-    const QDBusReply<QVariantMap> status = InstanceCommands::fetchStatus(QDBusConnection::sessionBus());
-    if (!status.isValid()) {
+    const auto answer = runningInstance().status();
+    const auto *const status = std::get_if<QVariantMap>(&answer);
+    if (status == nullptr) {
         return {{subject, Level::Problem, u"the running Quillo does not answer"_s, u"end it and start it again"_s}};
     }
     QList<Finding> findings;
     for (const auto &[use, key] :
          {std::pair(Use::Dictation, u"shortcutError"_s), std::pair(Use::Group, u"groupShortcutError"_s),
           std::pair(Use::History, u"historyShortcutError"_s)}) {
-        if (const QVariant error = status.value().value(key); error.isValid()) {
+        if (const QVariant error = status->value(key); error.isValid()) {
             findings.append({u"Hot key"_s, levelOfMissing(use), error.toString(), chooseAnother});
         }
     }
@@ -81,13 +79,14 @@ Finding busFinding()
         return {subject, Level::Note, u"none: no tray item, no keyring, no commands"_s,
                 u"log in through a desktop session, or start one with dbus-run-session"_s};
     }
-    return {subject, Level::Good, isRunning() ? u"there; Quillo is running"_s : u"there; Quillo isn't running"_s};
+    return {subject, Level::Good,
+            runningInstance().isThere() ? u"there; Quillo is running"_s : u"there; Quillo isn't running"_s};
 }
 
 /// Whether the shortcuts can be had.
 QList<Finding> hotKeyFindings(X11Backend &x11, const Preferences &preferences)
 {
-    if (isRunning()) {
+    if (runningInstance().isThere()) {
         return heldHotKeyFindings();
     }
     QList<Finding> findings;
@@ -106,23 +105,23 @@ QList<Finding> hotKeyFindings(X11Backend &x11, const Preferences &preferences)
     return findings;
 }
 
-QList<Finding> displayFindings(Services &services)
+X11Examination displayFindings(Services &services)
 {
     if (const auto refusal = DisplayChoice::refusal()) {
-        return {{u"Display server"_s, Level::Problem, *refusal, u"log in to an X11 session"_s}};
+        return {{{u"Display server"_s, Level::Problem, *refusal, u"log in to an X11 session"_s}}};
     }
     const Shortcut dictation = StoredShortcut::read(services.preferences, Use::Dictation);
     const bool isSingleKey = dictation.asModifier() != nullptr;
-    QList<Finding> findings =
+    X11Examination display =
         examineX11(isSingleKey ? DictationShortcutKind::SingleKey : DictationShortcutKind::Combination);
     QString whyNot;
     const auto x11 = X11Backend::create(services.clock, TerminalClasses::defaults(), &whyNot);
     if (x11) {
-        findings.append(hotKeyFindings(*x11, services.preferences));
+        display.findings.append(hotKeyFindings(*x11, services.preferences));
     } else {
-        findings.append({u"Hot keys"_s, Level::Problem, u"not tried: "_s + whyNot});
+        display.findings.append({u"Hot keys"_s, Level::Problem, u"not tried: "_s + whyNot});
     }
-    return findings;
+    return display;
 }
 
 QCoro::Task<Finding> backendFinding(Services &services)
@@ -192,11 +191,9 @@ QCoro::Task<void> examine(Services &services, QString recording)
             isFit = isFit && finding.level != Level::Problem;
         }
     };
-    const QList<Finding> display = displayFindings(services);
-    const bool hasXEmbed =
-        std::ranges::any_of(display, [](const Finding &row) { return row.subject == u"XEmbed tray"; });
-    tell(display);
-    tell({busFinding(), examineTray(QDBusConnection::sessionBus(), hasXEmbed)});
+    const X11Examination display = displayFindings(services);
+    tell(display.findings);
+    tell({busFinding(), examineTray(QDBusConnection::sessionBus(), display.hasXEmbedTray)});
     const AudioSettings settings = AudioRecorder::settings();
     const QList<Finding> sound = co_await examineSound(services.clock, recording, settings);
     tell(sound);
@@ -209,7 +206,7 @@ QCoro::Task<void> examine(Services &services, QString recording)
 
 } // namespace
 
-int doctorCommand()
+int DoctorCommand::run()
 {
     Services services;
     const QString recording = AudioRecorder::newPath(services.files);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/connection/X11Examination.h"
+#include "platform/x11/connection/examineX11.h"
 
 #include "platform/x11/connection/X11Connection.h"
+
+#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +18,19 @@ xcb_window_t owner(X11Connection &connection, const QByteArray &selection)
         c, xcb_get_selection_owner(c, connection.atom(selection + QByteArray::number(connection.screenNumber()))),
         nullptr));
     return reply ? reply->owner : noWindow;
+}
+
+/// xterm pastes on Ctrl+Shift+V only where its resources say so.
+bool xtermPastes(X11Connection &connection)
+{
+    constexpr uint32_t limit = 0x10000; // in units of four bytes
+    auto *const c = connection.xcb();
+    const XcbPtr<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+        c, xcb_get_property(c, 0, connection.root(), XCB_ATOM_RESOURCE_MANAGER, XCB_ATOM_STRING, 0, limit), nullptr));
+    const auto resources = reply ? QByteArray(static_cast<const char *>(xcb_get_property_value(reply.get())),
+                                              xcb_get_property_value_length(reply.get()))
+                                 : QByteArray();
+    return resources.contains("insert-selection(CLIPBOARD");
 }
 
 bool hasWindowManager(X11Connection &connection)
@@ -56,12 +71,12 @@ QList<Finding> examineX11Extensions(const X11Extensions &has, DictationShortcutK
                 : Finding{u"Clipboard"_s, Level::Problem, u"no XFIXES"_s, u"enable the X server's XFIXES extension"_s}};
 }
 
-QList<Finding> examineX11(DictationShortcutKind dictation)
+X11Examination examineX11(DictationShortcutKind dictation)
 {
     const auto connection = X11Connection::create();
     if (!connection) {
-        return {{u"Display server"_s, Level::Problem, u"there is no X server at $DISPLAY"_s,
-                 u"log in to an X11 session"_s}};
+        return {{{u"Display server"_s, Level::Problem, u"there is no X server at $DISPLAY"_s,
+                  u"log in to an X11 session"_s}}};
     }
     QList<Finding> findings{
         {u"Display server"_s, Level::Good, u"X11 (%1), backend x11"_s.arg(serverName(*connection))}};
@@ -73,8 +88,14 @@ QList<Finding> examineX11(DictationShortcutKind dictation)
     findings.append(owner(*connection, "_NET_WM_CM_S") != noWindow
                         ? Finding{u"Compositor"_s, Level::Good, u"there"_s}
                         : Finding{u"Compositor"_s, Level::Good, u"none: the status panel has hard edges"_s});
-    if (owner(*connection, "_NET_SYSTEM_TRAY_S") != noWindow) {
+    const bool hasXEmbedTray = owner(*connection, "_NET_SYSTEM_TRAY_S") != noWindow;
+    if (hasXEmbedTray) {
         findings.append({u"XEmbed tray"_s, Level::Good, u"there"_s});
     }
-    return findings;
+    if (!QStandardPaths::findExecutable(u"xterm"_s).isEmpty() && !xtermPastes(*connection)) {
+        findings.append({u"xterm"_s, Level::Note, u"Ctrl+Shift+V does not paste in it"_s,
+                         u"add to ~/.Xresources and load it with xrdb -merge: "
+                         "XTerm*VT100.translations: #override Ctrl Shift <Key>V: insert-selection(CLIPBOARD)"_s});
+    }
+    return {findings, hasXEmbedTray};
 }

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "app/commands/RunningInstance.h"
+
+#include "app/commands/CommandLine.h"
+#include "app/remote/RemoteControl.h"
+
+#include <QDBusMessage>
+#include <QDBusReply>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QDBusMessage message(const QString &interface, const QString &method)
+{
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(RemoteControl::service(), RemoteControl::path(), interface, method);
+    message.setAutoStartService(false);
+    return message;
+}
+
+} // namespace
+
+bool RunningInstance::isThere() const
+{
+    return RemoteControl::isRunning(m_bus);
+}
+
+std::optional<RunningInstance::Failure> RunningInstance::unreachable() const
+{
+    if (!m_bus.isConnected()) {
+        return Failure{u"There is no session bus (DBUS_SESSION_BUS_ADDRESS), so Quillo can't be reached."_s,
+                       ExitStatus::notRunning};
+    }
+    if (!isThere()) {
+        return Failure{u"Quillo isn't running. Start it with: quillo"_s, ExitStatus::notRunning};
+    }
+    return std::nullopt;
+}
+
+std::optional<RunningInstance::Failure> RunningInstance::call(const QString &method,
+                                                              const QVariantList &arguments) const
+{
+    if (auto failure = unreachable()) {
+        return failure;
+    }
+    QDBusMessage request = message(u"org.freedesktop.Application"_s, method);
+    request.setArguments(arguments);
+    const QDBusMessage reply = m_bus.call(request);
+    if (reply.type() == QDBusMessage::ErrorMessage) {
+        return Failure{u"Quillo refused: %1"_s.arg(reply.errorMessage()), ExitStatus::failed};
+    }
+    return std::nullopt;
+}
+
+std::optional<RunningInstance::Failure> RunningInstance::perform(const QString &action) const
+{
+    return call(u"ActivateAction"_s, {action, QVariantList(), QVariantMap()});
+}
+
+std::optional<RunningInstance::Failure> RunningInstance::bringForward() const
+{
+    return call(u"Activate"_s, {QVariantMap()});
+}
+
+std::variant<QVariantMap, RunningInstance::Failure> RunningInstance::status() const
+{
+    if (auto failure = unreachable()) {
+        return *std::move(failure);
+    }
+    const QDBusReply<QVariantMap> reply = m_bus.call(message(RemoteControl::interface(), u"GetStatus"_s));
+    if (!reply.isValid()) {
+        return Failure{u"Quillo did not answer: %1"_s.arg(reply.error().message()), ExitStatus::failed};
+    }
+    return reply.value();
+}
