@@ -6,6 +6,10 @@
 #include "platform/KeyEvents.h"
 #include "platform/Pasteboard.h"
 
+#include <QScopeGuard>
+
+#include <utility>
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -14,11 +18,16 @@ namespace {
 // is stuck must not keep the text back.
 constexpr uint32_t delayingModifiers =
     EventFlag::shift | EventFlag::control | EventFlag::option | EventFlag::command | EventFlag::function;
-constexpr auto modifierPoll = 25ms;
-constexpr int mostModifierPolls = 40;
+constexpr auto poll = 25ms;
+constexpr int mostPolls = 40;
 
-// Time for the program in front to read the pasteboard before the earlier content is put back.
+// Time for the program in front to read the pasteboard before the earlier content is put back, and the longest it is
+// given: a busy one reads late, and would paste what the user had copied before.
 constexpr auto restorePause = 400ms;
+constexpr auto longestPause = 2000ms;
+
+// A program that copies again and again must not keep the text back either.
+constexpr int mostWrites = 5;
 
 PasteboardItem transientItem(const QString &text)
 {
@@ -29,46 +38,144 @@ PasteboardItem transientItem(const QString &text)
 
 } // namespace
 
+/// Suspends until the inserts before are done.
+struct TextInserter::Turn {
+    TextInserter &inserter;
+
+    bool await_ready() const { return !std::exchange(inserter.m_isInserting, true); }
+    void await_suspend(std::coroutine_handle<> coroutine) const { inserter.m_waiting.push_back(coroutine); }
+    void await_resume() const {}
+};
+
 TextInserter::TextInserter(Pasteboard &pasteboard, KeyEvents &keyEvents, Accessibility &accessibility, Clock &clock)
     : m_pasteboard(pasteboard), m_keyEvents(keyEvents), m_accessibility(accessibility), m_clock(clock)
 {
 }
 
+TextInserter::~TextInserter()
+{
+    restore();
+}
+
 QCoro::Task<TextInserter::Outcome> TextInserter::insert(QString text)
+{
+    co_await Turn{*this};
+    const auto pass = qScopeGuard([this] { passTurn(); });
+    auto insertion = insertNow(std::move(text));
+    co_return co_await insertion;
+}
+
+void TextInserter::passTurn()
+{
+    if (m_waiting.empty()) {
+        m_isInserting = false;
+        return;
+    }
+    const auto next = m_waiting.front();
+    m_waiting.pop_front();
+    next.resume();
+}
+
+QCoro::Task<TextInserter::Outcome> TextInserter::insertNow(QString text)
 {
     if (!m_accessibility.isTrusted()) {
         m_pasteboard.clear();
-        m_pasteboard.setString(text);
-        co_return Outcome::Copied;
+        co_return leaveCopied(text);
     }
-
-    const QList<PasteboardItem> snapshot = co_await m_pasteboard.items();
-    m_pasteboard.clear();
-    m_pasteboard.write({transientItem(text)});
-    const int64_t written = m_pasteboard.changeCount();
-
-    co_await waitForModifierRelease();
-    postCommandV();
-    co_await m_clock.sleep(restorePause);
-
-    if (m_pasteboard.changeCount() == written) {
-        m_pasteboard.clear();
-        if (!snapshot.isEmpty()) {
-            m_pasteboard.write(snapshot);
+    for (int writes = 1;; ++writes) {
+        if (!co_await writeText(text)) {
+            co_return Outcome::Refused;
+        }
+        if (!co_await waitUntilKeysArrive()) {
+            co_return leaveCopied(text);
+        }
+        if (isUnchanged()) {
+            break;
+        }
+        if (writes == mostWrites) {
+            co_return leaveCopied(text);
         }
     }
+    const int64_t reads = m_pasteboard.readCount();
+    m_keyEvents.post(KeyCode::v, true, EventFlag::command);
+    m_keyEvents.post(KeyCode::v, false, EventFlag::command);
+    co_await m_clock.sleep(restorePause);
+    co_await waitUntilRead(reads);
+    if (isUnchanged() && m_pasteboard.readCount() == 0) {
+        co_return leaveCopied(text);
+    }
+    restore();
     co_return Outcome::Pasted;
 }
 
-QCoro::Task<void> TextInserter::waitForModifierRelease()
+/// Remembers what the pasteboard holds and puts the text in its place; false when that is refused.
+QCoro::Task<bool> TextInserter::writeText(QString text)
 {
-    for (int poll = 0; poll < mostModifierPolls && (m_keyEvents.modifierFlags() & delayingModifiers) != 0; ++poll) {
-        co_await m_clock.sleep(modifierPoll);
+    Content earlier;
+    int64_t read = 0;
+    int tries = 0;
+    do { // reading suspends, and the user may copy something else meanwhile
+        read = m_pasteboard.changeCount();
+        earlier = co_await m_pasteboard.items();
+    } while (m_pasteboard.changeCount() != read && ++tries < mostWrites);
+    m_pasteboard.clear();
+    const bool isWritten = m_pasteboard.write({transientItem(text)});
+    m_visit = Visit{std::move(earlier), m_pasteboard.changeCount()};
+    if (!isWritten) {
+        restore();
+    }
+    co_return isWritten;
+}
+
+/// False when a key posted now would not reach the program in front.
+QCoro::Task<bool> TextInserter::waitUntilKeysArrive()
+{
+    using Obstacle = KeyEvents::Obstacle;
+    int polls = 0;
+    for (;;) {
+        const Obstacle obstacle = m_keyEvents.obstacle(KeyCode::v);
+        const bool isModified = (m_keyEvents.modifierFlags() & delayingModifiers) != 0;
+        if (obstacle == Obstacle::OwnHotKey) {
+            polls = 0; // the user is dictating again, for as long as that takes
+        } else if (polls == mostPolls || (obstacle == Obstacle::None && !isModified)) {
+            co_return obstacle == Obstacle::None;
+        } else {
+            ++polls;
+        }
+        co_await m_clock.sleep(poll);
     }
 }
 
-void TextInserter::postCommandV()
+QCoro::Task<void> TextInserter::waitUntilRead(int64_t readsBefore)
 {
-    m_keyEvents.post(KeyCode::v, true, EventFlag::command);
-    m_keyEvents.post(KeyCode::v, false, EventFlag::command);
+    for (auto waited = restorePause; waited < longestPause; waited += poll) {
+        if (m_pasteboard.readCount() > readsBefore || !isUnchanged()) {
+            co_return;
+        }
+        co_await m_clock.sleep(poll);
+    }
+}
+
+bool TextInserter::isUnchanged()
+{
+    return m_visit && m_pasteboard.changeCount() == m_visit->changeCount;
+}
+
+/// Puts the earlier content back, unless somebody else has written meanwhile.
+void TextInserter::restore()
+{
+    if (isUnchanged()) {
+        m_pasteboard.clear();
+        if (!m_visit->earlier.isEmpty()) {
+            m_pasteboard.write(m_visit->earlier);
+        }
+    }
+    m_visit.reset();
+}
+
+/// Leaves the text for the user to paste, as an ordinary entry.
+TextInserter::Outcome TextInserter::leaveCopied(const QString &text)
+{
+    m_visit.reset();
+    return m_pasteboard.setString(text) ? Outcome::Copied : Outcome::Refused;
 }

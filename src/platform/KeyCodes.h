@@ -16,6 +16,8 @@ inline constexpr uint32_t rightCommand = 54;
 inline constexpr uint32_t rightOption = 61;
 inline constexpr uint32_t rightControl = 62;
 inline constexpr uint32_t fn = 63;
+/// Stands for every key that has no code of its own: Print Screen, Pause, the keys of media players.
+inline constexpr uint32_t unknown = 0xFFFF;
 
 /// The Linux evdev code (linux/input-event-codes.h) of a virtual key code, and back. X11 key codes are 8 higher.
 std::optional<uint16_t> toEvdev(uint32_t keyCode);

@@ -13,12 +13,16 @@ struct KeyEvent {
     enum class Type { KeyDown, FlagsChanged };
 
     Type type = Type::KeyDown;
-    /// Virtual key code (KeyCodes.h) of the key that went down or, for FlagsChanged, of the modifier that changed.
+    /// Virtual key code (KeyCodes.h) of the key that went down or, for FlagsChanged, of the modifier that changed. Esc
+    /// is the key that types it, every other key the one at its place.
     uint16_t keyCode = 0;
-    /// Event-flag encoding of KeyCodes.h, with the device-dependent bits of each modifier key held after the event.
+    /// Event-flag encoding of KeyCodes.h: what a hot key would see of the modifiers held after the event, and the
+    /// device-dependent bit of each modifier key that is down at its place, whatever the layout makes of it.
     uint32_t modifierFlags = 0;
     /// What the key types in the current layout without modifiers; absent where the backend does not say.
     std::optional<QString> charactersIgnoringModifiers = std::nullopt;
+    /// The key with the modifiers held can be a hot key (HotKeys.h).
+    bool canBeHotKey = true;
 };
 
 /// One running event stream; destroying it ends the stream. The handler may destroy it.
@@ -42,4 +46,8 @@ public:
     /// Null when the desktop offers no such stream.
     [[nodiscard]] virtual std::unique_ptr<KeyMonitor> addGlobal(Handler handler) = 0;
     [[nodiscard]] virtual std::unique_ptr<KeyMonitor> addLocal(Handler handler) = 0;
+
+    /// Whether events of this modifier key (virtual key code) can arrive here at all. Many keyboards keep fn to
+    /// themselves, and some desktops have no number for it.
+    virtual bool canSee(uint16_t keyCode) const = 0;
 };

@@ -37,6 +37,9 @@ public:
     /// Grows with every change of content, by this program or another; current at the moment of the call.
     virtual int64_t changeCount() = 0;
 
+    /// How often other programs have asked for the text of what this program wrote last; 0 after each write.
+    virtual int64_t readCount() const = 0;
+
     /// Reads every item with all its types, in order. Suspends for a bounded time: an owner that does not answer, or
     /// stops answering, yields what was read until then. A type without data is left out.
     virtual QCoro::Task<QList<PasteboardItem>> items() = 0;
@@ -44,8 +47,9 @@ public:
     /// Empties the pasteboard. A write that follows at once replaces the old content without an empty moment between.
     virtual void clear() = 0;
 
-    /// Makes `items` the content. A backend that knows only one item merges them, the first item's data winning. The
-    /// desktop's own hint against recording an entry is added to one that is marked transient.
+    /// Makes `items` the content; false when the desktop refused, and then the content is anybody's guess. A backend
+    /// that knows only one item merges them, the first item's data winning. The desktop's own hint against recording an
+    /// entry is added to one that is marked transient.
     virtual bool write(const QList<PasteboardItem> &items) = 0;
 
     bool setString(const QString &text)

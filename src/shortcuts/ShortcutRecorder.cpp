@@ -5,6 +5,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 ShortcutRecorder::ShortcutRecorder(KeyMonitors &keyMonitors, Actions actions)
     : m_keyMonitors(keyMonitors), m_actions(std::move(actions))
 {
@@ -38,11 +40,17 @@ void ShortcutRecorder::handle(const KeyEvent &event)
         return;
     }
     const auto recorded = Shortcut::recorded(event);
-    if (const auto *shortcut = std::get_if<Shortcut>(&recorded)) {
+    const auto *const shortcut = std::get_if<Shortcut>(&recorded);
+    if (shortcut != nullptr && event.canBeHotKey) {
         stop();
         m_actions.onRecord(*shortcut);
-    } else {
-        m_rejection = message(std::get<Shortcut::Rejection>(recorded));
-        Q_EMIT changed();
+        return;
     }
+    // A modifier would not help a key that has one, and no name.
+    constexpr uint32_t enough = EventFlag::command | EventFlag::option | EventFlag::control;
+    const bool isHelped =
+        event.keyCode == KeyCode::escape || (event.canBeHotKey && (event.modifierFlags & enough) == 0);
+    m_rejection = shortcut == nullptr && isHelped ? message(std::get<Shortcut::Rejection>(recorded))
+                                                  : u"That can't be a shortcut on this keyboard. Try another one."_s;
+    Q_EMIT changed();
 }

@@ -60,7 +60,7 @@ TEST_F(DictationTest, ATranscriptIsKeptPastedAndPaidFor)
     start();
     fake.pasteboard.setString(u"earlier"_s);
     QString pasted;
-    fake.keyEvents.onPost = [&] { pasted = fake.pasteboard.string(); };
+    fake.keyEvents.onPaste = [&] { pasted = fake.pasteboard.read(); };
     dictate();
     EXPECT_EQ(pasted, u"Hello there."_s);
     EXPECT_EQ(fake.pasteboard.string(), u"earlier"_s);

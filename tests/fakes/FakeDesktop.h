@@ -83,7 +83,7 @@ public:
     bool open(const QUrl &url) override
     {
         opened.append(url);
-        return true;
+        return hasBrowser;
     }
     bool openPrivacySettings(PrivacyPane pane) override
     {
@@ -94,6 +94,7 @@ public:
     QList<QUrl> opened;
     std::optional<PrivacyPane> openedPane;
     bool hasPrivacySettings = true;
+    bool hasBrowser = true;
 };
 
 class FakeStatusItem : public StatusItem {

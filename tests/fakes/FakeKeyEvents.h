@@ -6,7 +6,7 @@
 #include <functional>
 #include <vector>
 
-/// Records what is posted; the test says which modifiers are held.
+/// Records what is posted; the test says which modifiers are held and what is in the way.
 class FakeKeyEvents : public KeyEvents {
 public:
     struct Posted {
@@ -17,16 +17,23 @@ public:
     };
 
     uint32_t modifierFlags() const override { return heldModifiers; }
+    Obstacle obstacle(uint16_t /*keyCode*/) override
+    {
+        return isHotKeyHeld && isHotKeyHeld() ? Obstacle::OwnHotKey : inTheWay;
+    }
     bool post(uint16_t keyCode, bool down, uint32_t flags) override
     {
         posted.push_back({keyCode, down, flags});
-        if (onPost) {
-            onPost();
+        if (down && onPaste) {
+            onPaste();
         }
         return true;
     }
 
     uint32_t heldModifiers = 0;
+    Obstacle inTheWay = Obstacle::None;
     std::vector<Posted> posted;
-    std::function<void()> onPost;
+    /// What the program in front does when it gets the keys.
+    std::function<void()> onPaste;
+    std::function<bool()> isHotKeyHeld;
 };

@@ -18,6 +18,11 @@ public:
         return std::make_unique<Monitor>(local, std::move(handler));
     }
 
+    bool canSee(uint16_t keyCode) const override { return keyCode != unseen; }
+
+    /// A key whose events never come.
+    std::optional<uint16_t> unseen;
+
     /// An event while another program has the focus.
     void send(const KeyEvent &event) const
     {

@@ -14,8 +14,14 @@
 
 #include "platform/Platform.h"
 
-/// A whole desktop of fakes.
+/// A whole desktop of fakes, with a program in front that takes what is pasted.
 struct FakePlatform {
+    FakePlatform()
+    {
+        keyEvents.isHotKeyHeld = [this] { return hotKeys.isHeld(); };
+        keyEvents.onPaste = [this] { pasted.append(pasteboard.read()); };
+    }
+
     FakeAccessibility accessibility;
     FakeApplication application;
     FakeClock clock;
@@ -33,6 +39,7 @@ struct FakePlatform {
     FakeStatusItem statusItem;
     FakeStatusPanels statusPanels;
     FakeWorkspace workspace;
+    QStringList pasted;
 
     Platform platform{accessibility, application, clock,      files,        hotKeys,    keyEvents,
                       keyMonitors,   loginItem,   microphone, packagedInfo, pasteboard, preferences,

@@ -22,7 +22,7 @@ struct X11Backend::Parts {
           pasteboard(std::move(clipboard)),
           hotKeys(*connection, *keymap),
           keyMonitors(*connection, *keymap, [] { return QGuiApplication::focusWindow() != nullptr; }),
-          keyEvents(*connection, *keymap, terminalClasses),
+          keyEvents(*connection, *keymap, hotKeys, terminalClasses),
           statusPanels(*connection),
           accessibility(*connection),
           application(*connection)

@@ -26,6 +26,19 @@ protected:
         return std::exchange(log, {});
     }
 
+    void moveNumLock(xcb_map_index_t modifier)
+    {
+        std::array<xcb_keycode_t, 8> keys{
+            KEY_LEFTSHIFT + 8, KEY_CAPSLOCK + 8, KEY_LEFTCTRL + 8, KEY_LEFTALT + 8, 0, 0, KEY_LEFTMETA + 8, 0};
+        keys.at(modifier) = KEY_NUMLOCK + 8;
+        settle();
+        const XcbPtr<xcb_set_modifier_mapping_reply_t> moved(
+            xcb_set_modifier_mapping_reply(user.xcb(), xcb_set_modifier_mapping(user.xcb(), 1, keys.data()), nullptr));
+        ASSERT_EQ(moved->status, XCB_MAPPING_STATUS_SUCCESS);
+        settle(); // the change
+        settle(); // what follows from it
+    }
+
     X11HotKeys hotKeys{*connection, *keymap};
     std::vector<std::string> log;
 };
@@ -114,44 +127,94 @@ TEST_F(HotKeysTest, KeyThatDoesNotExistHereIsRefused)
     EXPECT_FALSE(hotKeys.add(0xFFFF, 0, logAs("")));
 }
 
-TEST_F(HotKeysTest, HotKeysWorkWhileAnotherIsHeld)
+TEST_F(HotKeysTest, SeveralHeldAtATimeEachHaveTheirPressAndRelease)
 {
     const auto hold = hotKeys.add(f5, 0, logAs("F5"));
     const auto escape = hotKeys.add(KeyCode::escape, 0, logAs("Esc"));
-    user.press(KEY_F5);
-    user.tap(KEY_A);
-    user.tap(KEY_ESC);
-    user.tap(KEY_ESC);
-    user.release(KEY_F5);
-    EXPECT_THAT(takeLog(), ElementsAre("+F5", "+Esc", "-Esc", "+Esc", "-Esc", "-F5"));
+    const auto chord = hotKeys.add(f6, HotKeyModifier::command, logAs("Super+F6"));
+    const struct {
+        std::vector<int> keys; // pressed, or released where negative; 0: the program looks at them
+        std::vector<std::string> expected;
+    } cases[] = {
+        {{KEY_F5, KEY_A, -KEY_A, KEY_ESC, -KEY_ESC, KEY_ESC, -KEY_ESC, -KEY_F5},
+         {"+F5", "+Esc", "-Esc", "+Esc", "-Esc", "-F5"}},
+        {{KEY_F5, KEY_ESC, -KEY_F5, 0, -KEY_ESC}, {"+F5", "+Esc", "-F5", "-Esc"}},
+        {{KEY_F5, KEY_ESC, -KEY_F5, -KEY_ESC}, {"+F5", "+Esc", "-Esc", "-F5"}},
+        {{KEY_LEFTMETA, KEY_F6, -KEY_LEFTMETA, -KEY_F6}, {"+Super+F6", "-Super+F6"}},
+    };
+    user.focus(user.addWindow());
+    for (const auto &[keys, expected] : cases) {
+        std::vector<std::string> found;
+        for (const int key : keys) {
+            key > 0 ? user.press(key) : key < 0 ? user.release(-key) : settle();
+        }
+        EXPECT_EQ(takeLog(), expected);
+        user.takeKeys();
+        user.tap(KEY_A);
+        EXPECT_EQ(user.takeKeys(), "+38/0 -38/0") << "the keyboard is the others' again";
+    }
 }
 
-TEST_F(HotKeysTest, ReleaseIsReportedThoughTheFirstHotKeyIsReleasedBefore)
+TEST_F(HotKeysTest, EscIsTheKeyThatTypesItWithAnyModifiersAndLocks)
 {
-    const auto hold = hotKeys.add(f5, 0, logAs("F5"));
+    const struct {
+        QString options;
+        std::vector<int> escapes;
+        std::vector<int> others;
+    } cases[] = {{{}, {KEY_ESC}, {KEY_CAPSLOCK}},
+                 {u"caps:escape"_s, {KEY_ESC, KEY_CAPSLOCK}, {}},
+                 {u"caps:swapescape"_s, {KEY_CAPSLOCK}, {KEY_ESC}}};
+    ASSERT_TRUE(user.grabsKey(KEY_ESC, XCB_MOD_MASK_1)); // as a window manager does
+    ASSERT_TRUE(user.grabsKey(KEY_CAPSLOCK, XCB_MOD_MASK_1));
     const auto escape = hotKeys.add(KeyCode::escape, 0, logAs("Esc"));
-    const auto window = user.addWindow();
-    user.focus(window);
+    ASSERT_TRUE(escape);
+    for (const auto &[options, escapes, others] : cases) {
+        setLayout(u"us"_s, {}, options);
+        settle(); // the change
+        settle(); // what follows from it
+        for (const auto &modifiers : std::vector<std::vector<int>>{
+                 {}, {KEY_LEFTCTRL, KEY_LEFTMETA}, {KEY_RIGHTSHIFT}, {KEY_NUMLOCK}, {KEY_LEFTALT, KEY_LEFTCTRL}}) {
+            std::ranges::for_each(modifiers, [this](int key) { user.press(key); });
+            std::ranges::for_each(others, [this](int key) { user.tap(key), user.tap(key); });
+            EXPECT_THAT(takeLog(), IsEmpty()) << qPrintable(options);
+            for (const int key : escapes) {
+                user.tap(key);
+                EXPECT_THAT(takeLog(), ElementsAre("+Esc", "-Esc")) << qPrintable(options) << modifiers.size();
+            }
+            std::ranges::for_each(modifiers, [this](int key) { user.release(key); });
+        }
+        user.tap(KEY_NUMLOCK);
+    }
+}
+
+TEST_F(HotKeysTest, AHotKeyArmedWhileItsKeyIsDownStartsWithTheNextPress)
+{
+    user.focus(user.addWindow());
+    const EventCounter presses(*connection, XCB_KEY_PRESS);
     user.press(KEY_F5);
-    user.press(KEY_ESC);
+    const auto hotKey = hotKeys.add(f5, 0, logAs("F5"));
+    ASSERT_TRUE(await([&] { return presses.count() >= 2; })) << "the server repeats the key";
     user.release(KEY_F5);
-    EXPECT_THAT(takeLog(), ElementsAre("+F5", "+Esc", "-F5"));
-    user.release(KEY_ESC);
-    EXPECT_THAT(takeLog(), ElementsAre("-Esc"));
+    EXPECT_THAT(takeLog(), IsEmpty());
     user.takeKeys();
     user.tap(KEY_A);
     EXPECT_EQ(user.takeKeys(), "+38/0 -38/0") << "the keyboard is the others' again";
+    user.tap(KEY_F5);
+    EXPECT_THAT(takeLog(), ElementsAre("+F5", "-F5"));
 }
 
-TEST_F(HotKeysTest, ReleaseThatNobodyCouldSeeIsReported)
+TEST_F(HotKeysTest, AHotKeyThatAChangeOfTheLayoutGivesToAnotherProgramIsLost)
 {
-    const auto hold = hotKeys.add(f5, 0, logAs("F5"));
-    const auto escape = hotKeys.add(KeyCode::escape, 0, logAs("Esc"));
-    user.press(KEY_F5);
-    user.press(KEY_ESC);
-    user.release(KEY_F5);
-    user.release(KEY_ESC); // before the program has looked at any of it
-    EXPECT_THAT(takeLog(), ElementsAre("+F5", "+Esc", "-Esc", "-F5"));
+    int losses = 0;
+    hotKeys.setLostHandler([&] { ++losses; });
+    const auto kept = hotKeys.add(f6, 0, logAs("F6"));
+    const auto hotKey = hotKeys.add(f5, 0, logAs("F5"));
+    ASSERT_TRUE(user.grabsKey(KEY_F5, XCB_MOD_MASK_3));
+    moveNumLock(XCB_MAP_INDEX_3);
+    EXPECT_EQ(losses, 1);
+    EXPECT_FALSE(hotKeys.add(f5, 0, logAs("F5"))) << "the other program's";
+    user.tap(KEY_F6);
+    EXPECT_THAT(takeLog(), ElementsAre("+F6", "-F6"));
 }
 
 TEST_F(HotKeysTest, HandlerMayEndRegistrations)
@@ -184,20 +247,7 @@ TEST_F(HotKeysTest, LayoutGroupDoesNotMatter)
 TEST_F(HotKeysTest, NumLockIsIgnoredAfterItMovedToAnotherModifier)
 {
     const auto hotKey = hotKeys.add(f5, 0, logAs("F5"));
-    settle();
-    std::array<xcb_keycode_t, 8> keys{KEY_LEFTSHIFT + 8,
-                                      KEY_CAPSLOCK + 8,
-                                      KEY_LEFTCTRL + 8,
-                                      KEY_LEFTALT + 8,
-                                      0,
-                                      KEY_NUMLOCK + 8,
-                                      KEY_LEFTMETA + 8,
-                                      0};
-    const XcbPtr<xcb_set_modifier_mapping_reply_t> moved(
-        xcb_set_modifier_mapping_reply(user.xcb(), xcb_set_modifier_mapping(user.xcb(), 1, keys.data()), nullptr));
-    ASSERT_EQ(moved->status, XCB_MAPPING_STATUS_SUCCESS);
-    settle(); // the change
-    settle(); // what follows from it
+    moveNumLock(XCB_MAP_INDEX_3);
     user.tap(KEY_NUMLOCK);
     user.tap(KEY_F5);
     EXPECT_THAT(takeLog(), ElementsAre("+F5", "-F5"));

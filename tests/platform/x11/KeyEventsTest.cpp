@@ -24,7 +24,8 @@ protected:
         return user.takeKeys();
     }
 
-    X11KeyEvents keyEvents{*connection, *keymap, TerminalClasses::defaults()};
+    X11HotKeys hotKeys{*connection, *keymap};
+    X11KeyEvents keyEvents{*connection, *keymap, hotKeys, TerminalClasses::defaults()};
     xcb_window_t window = user.addWindow();
 };
 
@@ -36,22 +37,26 @@ TEST_F(KeyEventsTest, PasteGoesThroughTheKeyThatTypesV)
     const struct {
         QString layouts;
         QString variants;
+        QString options;
         uint8_t group;
         int key;
+        int control = KEY_LEFTCTRL;
     } cases[] = {
-        {u"us"_s, {}, 0, KEY_V},
-        {u"us"_s, u"dvorak"_s, 0, KEY_DOT},
-        {u"us,us"_s, u",dvorak"_s, 1, KEY_DOT},
-        {u"us,ru"_s, {}, 1, KEY_V},
-        {u"ru"_s, {}, 0, KEY_V},
-        {u"us,ru"_s, u"dvorak,"_s, 1, KEY_DOT},
+        {u"us"_s, {}, {}, 0, KEY_V},
+        {u"us"_s, u"dvorak"_s, {}, 0, KEY_DOT},
+        {u"us,us"_s, u",dvorak"_s, {}, 1, KEY_DOT},
+        {u"us,ru"_s, {}, {}, 1, KEY_V},
+        {u"ru"_s, {}, {}, 0, KEY_V},
+        {u"us,ru"_s, u"dvorak,"_s, {}, 1, KEY_DOT},
+        {u"us"_s, {}, u"ctrl:swapcaps"_s, 0, KEY_V, KEY_CAPSLOCK},
+        {u"us"_s, {}, u"altwin:ctrl_win"_s, 0, KEY_V},
     };
     user.focus(window);
-    for (const auto &[layouts, variants, group, key] : cases) {
-        setLayout(layouts, variants);
+    for (const auto &[layouts, variants, options, group, key, control] : cases) {
+        setLayout(layouts, variants, options);
         user.lockGroup(group);
-        const auto expected = u"+37/0 +%1/4 -%1/4 -37/4"_s.arg(key + 8).toStdString();
-        EXPECT_EQ(paste(), expected) << qPrintable(layouts + variants);
+        const auto expected = u"+%2/0 +%1/4 -%1/4 -%2/4"_s.arg(key + 8).arg(control + 8).toStdString();
+        EXPECT_EQ(paste(), expected) << qPrintable(layouts + variants + options);
     }
 }
 
@@ -87,7 +92,7 @@ TEST_F(KeyEventsTest, ActiveWindowDecidesWhereTheFocusedOneHasNoClass)
 
 TEST_F(KeyEventsTest, TerminalClassesAreTheGivenOnes)
 {
-    X11KeyEvents others(*connection, *keymap, {u"gedit"_s});
+    X11KeyEvents others(*connection, *keymap, hotKeys, {u"gedit"_s});
     user.focus(user.addWindow(QByteArrayLiteral("gedit\0Gedit\0")));
     others.post(KeyCode::v, true, EventFlag::command);
     others.post(KeyCode::v, false, EventFlag::command);
@@ -126,6 +131,59 @@ TEST_F(KeyEventsTest, ModifiersHeldOnAKeyboardDoNotReachThePaste)
     EXPECT_THAT(paste(), testing::HasSubstr("+55/4"));
     user.releaseOnKeyboard(KEY_LEFTSHIFT);
     EXPECT_EQ(keyEvents.modifierFlags(), 0U);
+}
+
+TEST_F(KeyEventsTest, WhatKeepsAKeyFromTheProgramInFrontIsKnown)
+{
+    using Obstacle = KeyEvents::Obstacle;
+    const auto now = [this] { return keyEvents.obstacle(KeyCode::v); };
+    const auto setOnRoot = [this](const QByteArray &name, xcb_window_t value) {
+        xcb_change_property(user.xcb(), XCB_PROP_MODE_REPLACE, user.root(), user.atom(name), XCB_ATOM_WINDOW, 32, 1,
+                            &value);
+        user.sync();
+    };
+    user.focus(window);
+    EXPECT_EQ(now(), Obstacle::None);
+
+    const auto hotKey = hotKeys.add(KeyCode::space, 0, [](bool) {});
+    user.press(KEY_SPACE); // not looked at by the event loop yet
+    EXPECT_EQ(now(), Obstacle::OwnHotKey);
+    settle();
+    EXPECT_EQ(now(), Obstacle::OwnHotKey);
+    user.release(KEY_SPACE);
+    EXPECT_EQ(now(), Obstacle::None);
+    settle();
+
+    user.press(KEY_V);
+    EXPECT_EQ(now(), Obstacle::HeldKey);
+    user.release(KEY_V);
+
+    xcb_grab_keyboard_unchecked(user.xcb(), 0, window, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    user.sync();
+    EXPECT_EQ(now(), Obstacle::OtherGrab);
+    xcb_ungrab_keyboard(user.xcb(), XCB_CURRENT_TIME);
+    user.sync();
+
+    user.focus(XCB_INPUT_FOCUS_NONE);
+    EXPECT_EQ(now(), Obstacle::NoFocus);
+    user.focus(XCB_INPUT_FOCUS_POINTER_ROOT);
+    user.moveTo(1000, 700);
+    EXPECT_EQ(now(), Obstacle::NoFocus) << "no window there";
+    user.moveTo(10, 10);
+    EXPECT_EQ(now(), Obstacle::None);
+
+    setOnRoot("_NET_SUPPORTING_WM_CHECK", window);
+    setOnRoot("_NET_ACTIVE_WINDOW", noWindow);
+    user.focus(window); // the window manager's own: it has no class
+    EXPECT_EQ(now(), Obstacle::NoFocus);
+    const auto program = user.addWindow(QByteArrayLiteral("notes\0Notes\0"));
+    user.focus(program);
+    EXPECT_EQ(now(), Obstacle::None);
+    const auto type = user.atom("_NET_WM_WINDOW_TYPE_DESKTOP");
+    xcb_change_property(user.xcb(), XCB_PROP_MODE_REPLACE, program, user.atom("_NET_WM_WINDOW_TYPE"), XCB_ATOM_ATOM, 32,
+                        1, &type);
+    user.sync();
+    EXPECT_EQ(now(), Obstacle::NoFocus);
 }
 
 TEST_F(KeyEventsTest, OtherKeysArePostedWithTheirModifiers)

@@ -16,6 +16,7 @@ protected:
         return [&events](const KeyEvent &event) {
             const bool modifier = event.type == KeyEvent::Type::FlagsChanged;
             auto text =
+                QString::fromLatin1(event.canBeHotKey ? "" : "!") +
                 (modifier ? u"flags %1 %2"_s : u"key %1 %2 "_s).arg(event.keyCode).arg(event.modifierFlags, 0, 16);
             events.push_back((text + event.charactersIgnoringModifiers.value_or(QString())).toStdString());
         };
@@ -93,29 +94,43 @@ TEST_F(KeyMonitorsTest, KeysAreSeenWhileAnotherClientGrabsTheKeyboard)
     EXPECT_THAT(takeLog(), ElementsAre("flags 62 42000", "flags 62 0"));
 }
 
-TEST_F(KeyMonitorsTest, CharactersAreThoseOfTheLayoutWithoutModifiers)
+TEST_F(KeyMonitorsTest, KeysAreWhatTheLayoutMakesOfThem)
 {
     const struct {
-        QString layouts;
-        QString variants;
+        const char *layouts;
+        const char *variants;
+        const char *options;
         uint8_t group;
+        int modifier;
         int key;
-        std::string event;
+        const char *event; // "!": no hot key
     } cases[] = {
-        {u"us"_s, u"dvorak"_s, 0, KEY_V, "key 9 20002 k"}, {u"fr"_s, {}, 0, KEY_A, "key 0 20002 q"},
-        {u"us,ru"_s, {}, 1, KEY_A, "key 0 20002 ф"},       {u"us,ru"_s, {}, 0, KEY_A, "key 0 20002 a"},
-        {u"us"_s, {}, 0, KEY_F5, "key 96 20002 "},
+        {"us", "dvorak", "", 0, KEY_LEFTSHIFT, KEY_V, "key 9 20002 k"},
+        {"us,ru", "", "", 1, KEY_LEFTSHIFT, KEY_A, "key 0 20002 ф"},
+        {"us,ru", "", "", 0, KEY_LEFTSHIFT, KEY_A, "key 0 20002 a"},
+        {"us", "", "", 0, KEY_LEFTSHIFT, KEY_F5, "key 96 20002 "},
+        {"us", "", "", 0, KEY_LEFTCTRL, KEY_KP5, "key 87 40001 5"},
+        {"us", "", "", 0, KEY_LEFTCTRL, KEY_SYSRQ, "!key 65535 40001 "},
+        {"us", "", "", 0, KEY_LEFTCTRL, KEY_PLAYPAUSE, "!key 65535 40001 "},
+        {"de", "", "", 0, KEY_RIGHTALT, KEY_K, "!key 40 40 k"},
+        {"us", "", "ctrl:nocaps", 0, KEY_CAPSLOCK, KEY_K, "key 40 40000 k"},
+        {"us", "", "altwin:swap_lalt_lwin", 0, KEY_LEFTALT, KEY_K, "key 40 100020 k"},
+        {"us", "", "altwin:ctrl_win", 0, KEY_LEFTMETA, KEY_K, "key 40 40008 k"},
+        {"us", "", "caps:escape", 0, KEY_LEFTCTRL, KEY_CAPSLOCK, "key 53 40001 \x1B"},
     };
     for (const auto &testCase : cases) {
-        setLayout(testCase.layouts, testCase.variants);
+        setLayout(QString::fromLatin1(testCase.layouts), QString::fromLatin1(testCase.variants),
+                  QString::fromLatin1(testCase.options));
         user.lockGroup(testCase.group);
         settle();
-        user.press(KEY_LEFTSHIFT);
+        user.press(testCase.modifier);
         const auto monitor = monitors.addGlobal(logTo(log));
         user.tap(testCase.key);
         EXPECT_THAT(takeLog(), ElementsAre(testCase.event));
-        user.release(KEY_LEFTSHIFT);
+        user.release(testCase.modifier);
     }
+    EXPECT_TRUE(monitors.canSee(KeyCode::rightCommand));
+    EXPECT_FALSE(monitors.canSee(KeyCode::fn)) << "beyond the key codes of the protocol";
 }
 
 TEST_F(KeyMonitorsTest, HandlerMayEndMonitors)

@@ -284,6 +284,19 @@ TEST_F(PasteboardTest, WriteAfterClearLeavesNoEmptyMoment)
     EXPECT_EQ(xclip({u"-o"_s}), "new");
 }
 
+TEST_F(PasteboardTest, WhoeverAsksForTheTextIsCounted)
+{
+    pasteboard->write(
+        {PasteboardItem{{Pasteboard::plainString.toString(), {"text"}}, {Pasteboard::transientType.toString(), {}}}});
+    xclip({u"-o"_s, u"-t"_s, u"TARGETS"_s});
+    xclip({u"-o"_s, u"-t"_s, u"x-kde-passwordManagerHint"_s});
+    EXPECT_EQ(pasteboard->readCount(), 0);
+    xclip({u"-o"_s, u"-t"_s, u"UTF8_STRING"_s});
+    EXPECT_EQ(pasteboard->readCount(), 1);
+    pasteboard->setString(u"next"_s);
+    EXPECT_EQ(pasteboard->readCount(), 0);
+}
+
 TEST_F(PasteboardTest, ContentOfAnotherProgramTakesThePlaceOfOwn)
 {
     pasteboard->setString(u"own"_s);

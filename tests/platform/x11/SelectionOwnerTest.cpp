@@ -44,6 +44,35 @@ TEST_F(SelectionOwnerTest, ReaderThatTakesNoPartIsGivenUp)
     EXPECT_TRUE(await([&] { return owner.transferCount() == 0; }));
 }
 
+TEST_F(SelectionOwnerTest, TheClipboardManagerSavesTheContentAndIsNotWaitedForInVain)
+{
+    SelectionOwner owner(*connection);
+    ASSERT_TRUE(owner.own({{"a", "a", 8, "kept"}}));
+    owner.save(1h); // nobody to save it
+    const auto manager = user.addWindow();
+    ASSERT_TRUE(user.ownsSelection(manager, "CLIPBOARD_MANAGER"));
+    owner.save(1ms);
+    ASSERT_EQ(user.takeEvents(XCB_SELECTION_REQUEST), 1);
+
+    QTimer::singleShot(0, [&] {
+        const auto event = user.next(XCB_SELECTION_REQUEST);
+        ASSERT_TRUE(event);
+        const auto &request = eventAs<xcb_selection_request_event_t>(*event);
+        EXPECT_EQ(request.target, user.atom("SAVE_TARGETS"));
+        xcb_convert_selection(user.xcb(), manager, user.atom("CLIPBOARD"), user.atom("a"), user.atom("DATA"),
+                              XCB_CURRENT_TIME);
+        user.sync();
+        ASSERT_TRUE(user.next(XCB_SELECTION_NOTIFY)) << "the owner answers while it waits";
+        xcb_selection_notify_event_t done{};
+        done.response_type = XCB_SELECTION_NOTIFY;
+        done.requestor = request.requestor;
+        done.selection = request.selection;
+        xcb_send_event(user.xcb(), 0, request.requestor, 0, reinterpret_cast<const char *>(&done));
+        user.sync();
+    });
+    owner.save(1h);
+}
+
 TEST_F(SelectionOwnerTest, LateWordOfAnEarlierLossDoesNotEndTheOwnership)
 {
     SelectionOwner owner(*connection);

@@ -36,9 +36,11 @@ protected:
         QCoreApplication::processEvents();
     }
 
-    void setLayout(const QString &layouts, const QString &variants = {})
+    void setLayout(const QString &layouts, const QString &variants = {}, const QString &options = {})
     {
-        run(QStringLiteral("setxkbmap"), {QStringLiteral("-layout"), layouts, QStringLiteral("-variant"), variants},
+        run(QStringLiteral("setxkbmap"),
+            {QStringLiteral("-layout"), layouts, QStringLiteral("-variant"), variants, QStringLiteral("-option"),
+             QString(), QStringLiteral("-option"), options},
             display.environment());
     }
 

@@ -7,24 +7,24 @@ namespace {
 
 class Offers {
 public:
-    void add(const QByteArray &target, const QByteArray &type, int format, const QByteArray &bytes)
+    void add(const QByteArray &target, const QByteArray &type, int format, const QByteArray &bytes, bool isText = false)
     {
         const bool known =
             std::ranges::any_of(m_offers, [&](const SelectionOffer &offer) { return offer.target == target; });
         if (!known) {
-            m_offers.append({target, type, format, bytes});
+            m_offers.append({target, type, format, bytes, isText});
         }
     }
 
     void addText(const QByteArray &utf8)
     {
-        add("UTF8_STRING", "UTF8_STRING", 8, utf8);
-        add("text/plain;charset=utf-8", "text/plain;charset=utf-8", 8, utf8);
-        add("text/plain", "text/plain", 8, utf8);
-        add("TEXT", "UTF8_STRING", 8, utf8); // the answer's type tells the encoding
+        add("UTF8_STRING", "UTF8_STRING", 8, utf8, true);
+        add("text/plain;charset=utf-8", "text/plain;charset=utf-8", 8, utf8, true);
+        add("text/plain", "text/plain", 8, utf8, true);
+        add("TEXT", "UTF8_STRING", 8, utf8, true); // the answer's type tells the encoding
         const auto text = QString::fromUtf8(utf8);
         if (std::ranges::all_of(text, [](QChar character) { return character.unicode() <= 0xFF; })) {
-            add("STRING", "STRING", 8, text.toLatin1());
+            add("STRING", "STRING", 8, text.toLatin1(), true);
         }
     }
 

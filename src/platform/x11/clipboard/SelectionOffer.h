@@ -12,6 +12,7 @@ struct SelectionOffer {
     QByteArray type;
     int format = 8; // 8, 16 or 32 bits a unit
     QByteArray bytes;
+    bool isText = false;
 };
 
 /// What a list of pasteboard items is offered as. A selection has one item: the first item's data wins. Plain text is

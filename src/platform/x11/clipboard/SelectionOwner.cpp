@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/clipboard/SelectionOwner.h"
 
+#include <QDeadlineTimer>
+#include <QEventLoop>
+
 #include <algorithm>
 #include <vector>
 
@@ -42,6 +45,7 @@ bool SelectionOwner::own(QList<SelectionOffer> offers)
         return false;
     }
     m_offers = std::move(offers);
+    m_readCount = 0;
     m_ownedSince = time;
     m_ownRequest = request.sequence;
     m_owned = true;
@@ -56,6 +60,27 @@ void SelectionOwner::giveUp()
     m_owned = false;
 }
 
+void SelectionOwner::save(std::chrono::milliseconds limit)
+{
+    auto *const c = m_connection.xcb();
+    const auto manager = m_connection.atom("CLIPBOARD_MANAGER");
+    const XcbPtr<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(c, xcb_get_selection_owner(c, manager), nullptr));
+    if (!m_owned || !reply || reply->owner == noWindow) {
+        return;
+    }
+    m_isSaving = true;
+    xcb_convert_selection(c, window(), manager, m_connection.atom("SAVE_TARGETS"), XCB_ATOM_NONE,
+                          m_connection.serverTime());
+    m_connection.flush();
+    const QDeadlineTimer deadline(limit);
+    QEventLoop loop;                         // the manager reads what it saves
+    QTimer::singleShot(limit, &loop, [] {}); // wakes the loop
+    while (m_isSaving && !deadline.hasExpired()) {
+        loop.processEvents(QEventLoop::WaitForMoreEvents);
+    }
+}
+
 void SelectionOwner::handle(const xcb_generic_event_t &event)
 {
     switch (eventType(event)) {
@@ -68,6 +93,11 @@ void SelectionOwner::handle(const xcb_generic_event_t &event)
             int(event.full_sequence - m_ownRequest) >= 0) {
             m_offers.clear();
             m_owned = false;
+        }
+        break;
+    case XCB_SELECTION_NOTIFY:
+        if (eventAs<xcb_selection_notify_event_t>(event).selection == m_connection.atom("CLIPBOARD_MANAGER")) {
+            m_isSaving = false;
         }
         break;
     case XCB_PROPERTY_NOTIFY:
@@ -122,6 +152,7 @@ bool SelectionOwner::convert(xcb_window_t requestor, xcb_atom_t target, xcb_atom
     if (offer == m_offers.end()) {
         return false;
     }
+    m_readCount += offer->isText ? 1 : 0;
     send(requestor, property, *offer);
     return true;
 }

@@ -6,6 +6,7 @@
 
 #include <QTimer>
 
+#include <atomic>
 #include <chrono>
 #include <list>
 
@@ -28,6 +29,13 @@ public:
 
     /// Leaves the selection without an owner, whoever owns it.
     void giveUp();
+
+    /// How often the text has been asked for since `own`. Any thread.
+    int64_t readCount() const { return m_readCount; }
+
+    /// Has the clipboard manager take a copy of what is owned, which it offers in this program's place from then on.
+    /// Returns when it has, when it refuses or is silent for `limit`, and at once where there is none.
+    void save(std::chrono::milliseconds limit = std::chrono::seconds(2));
 
     /// Readers in parts that have not got everything yet.
     size_t transferCount() const { return m_transfers.size(); }
@@ -58,6 +66,8 @@ private:
     std::chrono::milliseconds m_patience;
     QList<SelectionOffer> m_offers;
     bool m_owned = false;
+    std::atomic<int64_t> m_readCount = 0;
+    bool m_isSaving = false;
     xcb_timestamp_t m_ownedSince = XCB_CURRENT_TIME;
     unsigned m_ownRequest = 0; // sequence number of the request that made us the owner
     std::list<Transfer> m_transfers;

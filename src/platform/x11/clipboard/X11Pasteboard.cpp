@@ -29,6 +29,9 @@ public:
     ~Server()
     {
         inThread([this] {
+            if (m_owner) {
+                m_owner->save();
+            }
             m_owner.reset();
             m_connection.reset();
             return true;
@@ -43,6 +46,8 @@ public:
     {
         return inThread([this, &offers] { return m_owner->own(std::move(offers)); });
     }
+
+    int64_t readCount() const { return m_owner->readCount(); }
 
     void giveUp()
     {
@@ -78,9 +83,10 @@ private:
 /// Counts the changes of owner.
 class X11Pasteboard::Counter final : private X11Listener {
 public:
-    explicit Counter(X11Connection &connection)
+    Counter(X11Connection &connection, std::function<void()> changed)
         : X11Listener(connection),
           m_connection(connection),
+          m_changed(std::move(changed)),
           m_clipboard(connection.atom("CLIPBOARD")),
           m_event(xcb_get_extension_data(connection.xcb(), &xcb_xfixes_id)->first_event + XCB_XFIXES_SELECTION_NOTIFY)
     {
@@ -113,10 +119,12 @@ private:
         }
         ++m_count;
         m_owner = change.subtype == XCB_XFIXES_SELECTION_EVENT_SET_SELECTION_OWNER ? change.owner : noWindow;
+        m_changed();
         return true;
     }
 
     X11Connection &m_connection;
+    std::function<void()> m_changed;
     xcb_atom_t m_clipboard;
     int m_event;
     xcb_window_t m_owner = noWindow;
@@ -138,13 +146,26 @@ X11Pasteboard::X11Pasteboard(Clock &clock, std::unique_ptr<X11Connection> connec
     : m_clock(clock),
       m_connection(std::move(connection)),
       m_server(std::move(server)),
-      m_counter(std::make_unique<Counter>(*m_connection))
+      m_counter(std::make_unique<Counter>(*m_connection, [this] { forgetWhatIsReplaced(); }))
 {
     m_nextTurn.setSingleShot(true);
     m_nextTurn.callOnTimeout([this] { clearNow(); });
 }
 
 X11Pasteboard::~X11Pasteboard() = default;
+
+/// What another program has replaced may be large.
+void X11Pasteboard::forgetWhatIsReplaced()
+{
+    if (m_counter->owner() != m_server->window()) {
+        m_written.clear();
+    }
+}
+
+int64_t X11Pasteboard::readCount() const
+{
+    return m_server->readCount();
+}
 
 int64_t X11Pasteboard::changeCount()
 {
@@ -200,6 +221,7 @@ bool X11Pasteboard::write(const QList<PasteboardItem> &items)
     if (!m_server->own(selectionOffers(item))) {
         return false;
     }
+    m_counter->refresh(); // past what others have written before
     m_written = std::move(item);
     return true;
 }

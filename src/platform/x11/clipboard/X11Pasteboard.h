@@ -13,7 +13,9 @@ class SelectionOwner;
 /// The CLIPBOARD selection. It is served from a thread and a connection of its own: a toolkit that pastes waits for the
 /// data without turning its event loop, and the window it pastes into may be this program's. Reading and counting have
 /// a connection of their own too, so that bringing the change count up to date delivers no other event.
-/// A reading that is still suspended when the pasteboard is destroyed never ends.
+/// A reading that is still suspended when the pasteboard is destroyed never ends. What this program wrote last is
+/// handed to the desktop's clipboard manager then; where there is none, it goes with the program, as every program's
+/// does.
 class X11Pasteboard final : public Pasteboard {
 public:
     /// By default on the display of $DISPLAY; null when there is none or it has no XFIXES extension.
@@ -21,6 +23,7 @@ public:
     ~X11Pasteboard() override;
 
     int64_t changeCount() override;
+    int64_t readCount() const override;
     QCoro::Task<QList<PasteboardItem>> items() override;
     /// Takes effect at the next turn of the event loop, or with the next other call; a write takes its place.
     void clear() override;
@@ -32,6 +35,7 @@ private:
 
     X11Pasteboard(Clock &clock, std::unique_ptr<X11Connection> connection, std::unique_ptr<Server> server);
     void clearNow();
+    void forgetWhatIsReplaced();
 
     Clock &m_clock;
     std::unique_ptr<X11Connection> m_connection;

@@ -5,8 +5,7 @@
 
 #include <QPointer>
 
-#include <algorithm>
-#include <vector>
+#include <set>
 
 namespace {
 
@@ -66,69 +65,146 @@ X11HotKeys::X11HotKeys(X11Connection &connection, X11Keymap &keymap)
 
 std::unique_ptr<HotKeyRegistration> X11HotKeys::add(uint32_t keyCode, uint32_t modifiers, Handler handler)
 {
-    const auto code = X11Keys::fromKeyCode(keyCode);
-    if (!code) {
-        return nullptr;
+    HotKey key{{}, toModifierMask(modifiers), std::move(handler)};
+    if (keyCode == KeyCode::escape && key.modifiers == 0) {
+        key.codes = escapeKeys();
+        key.modifiers = XCB_MOD_MASK_ANY;
+    } else if (const auto code = X11Keys::fromKeyCode(keyCode)) {
+        key.codes = {*code};
     }
-    HotKey key{*code, toModifierMask(modifiers), std::move(handler)};
     // The server would let one client grab a key twice.
     const bool taken = std::ranges::any_of(m_hotKeys, [&](const auto &entry) {
-        return entry.second.code == key.code && entry.second.modifiers == key.modifiers;
+        return entry.second.codes == key.codes && entry.second.modifiers == key.modifiers;
     });
-    if (taken || !grab(key)) {
+    if (key.codes.empty() || taken || !grab(key)) {
         return nullptr;
     }
+    awaitRelease(key);
     m_hotKeys.emplace(++m_lastId, std::move(key));
     return std::make_unique<Registration>(*this, m_lastId);
 }
 
+std::vector<uint8_t> X11HotKeys::escapeKeys()
+{
+    std::vector<uint8_t> codes;
+    for (unsigned code = X11Keys::evdevOffset; code <= UINT8_MAX; ++code) {
+        if (m_keymap.types(uint8_t(code), XKB_KEY_Escape)) {
+            codes.push_back(uint8_t(code));
+        }
+    }
+    return codes;
+}
+
 bool X11HotKeys::grab(const HotKey &key)
 {
-    auto *const c = m_connection.xcb();
-    std::vector<xcb_void_cookie_t> requests;
-    for (const auto locks : combinations(m_locks)) {
-        requests.push_back(xcb_grab_key_checked(c, 0, m_connection.root(), key.modifiers | locks, key.code,
-                                                XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
-    }
-    bool granted = true;
-    for (const auto request : requests) {
-        const XcbPtr<xcb_generic_error_t> error(xcb_request_check(c, request));
-        granted = granted && !error;
-    }
-    if (!granted || xcb_connection_has_error(c) != 0) {
+    const bool granted = std::ranges::all_of(key.codes, [&](uint8_t code) {
+        return key.modifiers == XCB_MOD_MASK_ANY ? grabInAnyState(code) : grab(code, key.modifiers);
+    });
+    if (!granted || xcb_connection_has_error(m_connection.xcb()) != 0) {
         ungrab(key);
         return false;
     }
     return true;
 }
 
+bool X11HotKeys::grab(uint8_t code, uint16_t modifiers)
+{
+    auto *const c = m_connection.xcb();
+    std::vector<xcb_void_cookie_t> requests;
+    for (const auto locks : modifiers == XCB_MOD_MASK_ANY ? std::vector<uint16_t>{0} : combinations(m_locks)) {
+        requests.push_back(xcb_grab_key_checked(c, 0, m_connection.root(), modifiers | locks, code, XCB_GRAB_MODE_ASYNC,
+                                                XCB_GRAB_MODE_ASYNC));
+    }
+    bool granted = true;
+    for (const auto request : requests) {
+        const XcbPtr<xcb_generic_error_t> error(xcb_request_check(c, request));
+        granted = granted && !error;
+    }
+    return granted;
+}
+
+/// Where another program has the key with some modifiers, as window managers have Alt+Esc, the server refuses to give
+/// it away with any; then with all the others.
+bool X11HotKeys::grabInAnyState(uint8_t code)
+{
+    if (grab(code, XCB_MOD_MASK_ANY)) {
+        return true;
+    }
+    for (const auto modifiers : combinations(allModifiers)) {
+        xcb_grab_key(m_connection.xcb(), 0, m_connection.root(), modifiers, code, XCB_GRAB_MODE_ASYNC,
+                     XCB_GRAB_MODE_ASYNC);
+    }
+    return grab(code, 0);
+}
+
 void X11HotKeys::ungrab(const HotKey &key)
 {
-    for (const auto locks : combinations(m_locks)) {
-        xcb_ungrab_key(m_connection.xcb(), key.code, m_connection.root(), key.modifiers | locks);
+    for (const auto code : key.codes) {
+        for (const auto locks : key.modifiers == XCB_MOD_MASK_ANY ? std::vector<uint16_t>{0} : combinations(m_locks)) {
+            xcb_ungrab_key(m_connection.xcb(), code, m_connection.root(), key.modifiers | locks);
+        }
     }
     m_connection.flush();
 }
 
+void X11HotKeys::awaitRelease(const HotKey &key)
+{
+    const auto down = X11Keys::heldKeys(m_connection.xcb());
+    for (const auto code : key.codes) {
+        if (down[code] && m_held.emplace(code, nobody).second) {
+            followHeldKeys();
+        }
+    }
+}
+
+bool X11HotKeys::isHeld()
+{
+    std::set<uint8_t> held;
+    for (const auto &[code, hotKey] : m_held) {
+        held.insert(code);
+    }
+    m_connection.takeArrived([&](const xcb_generic_event_t &event) { // and leaves them to be handled
+        if (eventType(event) == XCB_KEY_PRESS) {
+            held.insert(eventAs<xcb_key_press_event_t>(event).detail);
+        } else if (eventType(event) == XCB_KEY_RELEASE) {
+            held.erase(eventAs<xcb_key_release_event_t>(event).detail);
+        }
+        return false;
+    });
+    const auto down = X11Keys::heldKeys(m_connection.xcb());
+    return std::ranges::any_of(held, [&](uint8_t code) { return down[code]; });
+}
+
 void X11HotKeys::remove(Id id)
 {
-    const auto found = m_hotKeys.find(id);
-    ungrab(found->second);
-    m_hotKeys.erase(found);
+    if (const auto lost = m_hotKeys.extract(id)) {
+        ungrab(lost.mapped());
+    }
 }
 
 void X11HotKeys::followKeymap()
 {
     const auto locks = m_keymap.lockModifiers();
-    if (locks == m_locks) {
-        return;
-    }
+    const auto escape = escapeKeys();
+    const auto isAsBefore = [&](const HotKey &key) {
+        return key.modifiers == XCB_MOD_MASK_ANY ? key.codes == escape : locks == m_locks;
+    };
+    std::vector<Id> changed;
     for (const auto &[id, key] : m_hotKeys) {
-        ungrab(key);
+        if (!isAsBefore(key)) {
+            ungrab(key);
+            changed.push_back(id);
+        }
     }
     m_locks = locks;
-    for (const auto &[id, key] : m_hotKeys) {
-        grab(key);
+    size_t lost = 0;
+    for (const auto id : changed) {
+        HotKey &key = m_hotKeys.at(id);
+        key.codes = key.modifiers == XCB_MOD_MASK_ANY ? escape : key.codes;
+        lost += grab(key) ? 0 : m_hotKeys.erase(id);
+    }
+    if (lost > 0 && m_lost) {
+        m_lost();
     }
 }
 
@@ -152,8 +228,10 @@ void X11HotKeys::press(uint8_t code, uint16_t state)
     }
     // While one hot key is held, the presses of all keys come here: another hot key among them has to be found.
     const auto modifiers = state & allModifiers & ~m_locks;
-    const auto found = std::ranges::find_if(
-        m_hotKeys, [&](const auto &entry) { return entry.second.code == code && entry.second.modifiers == modifiers; });
+    const auto found = std::ranges::find_if(m_hotKeys, [&](const auto &entry) {
+        const HotKey &key = entry.second;
+        return key.has(code) && (key.modifiers == modifiers || key.modifiers == XCB_MOD_MASK_ANY);
+    });
     if (found == m_hotKeys.end()) {
         m_held.emplace(code, std::nullopt);
         return;

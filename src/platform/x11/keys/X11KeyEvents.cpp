@@ -17,17 +17,15 @@ constexpr uint8_t code(int evdevCode)
     return uint8_t(evdevCode + X11Keys::evdevOffset);
 }
 
-XcbPtr<xcb_get_property_reply_t> property(xcb_connection_t *c, xcb_window_t window, xcb_atom_t name, xcb_atom_t type)
-{
-    constexpr uint32_t limit = 256; // in units of four bytes: a window class or one window
-    return XcbPtr<xcb_get_property_reply_t>(
-        xcb_get_property_reply(c, xcb_get_property(c, 0, window, name, type, 0, limit), nullptr));
-}
-
 } // namespace
 
-X11KeyEvents::X11KeyEvents(X11Connection &connection, X11Keymap &keymap, const QStringList &terminalClasses)
-    : m_connection(connection), m_keymap(keymap), m_terminalClasses(terminalClasses)
+X11KeyEvents::X11KeyEvents(X11Connection &connection, X11Keymap &keymap, X11HotKeys &hotKeys,
+                           const QStringList &terminalClasses)
+    : m_connection(connection),
+      m_keymap(keymap),
+      m_hotKeys(hotKeys),
+      m_focus(connection),
+      m_terminalClasses(terminalClasses)
 {
 }
 
@@ -43,6 +41,37 @@ uint32_t X11KeyEvents::modifierFlags() const
     flags |= (mods & (XCB_MOD_MASK_1 | XCB_MOD_MASK_5)) != 0 ? EventFlag::option : 0; // Mod5 is Alt Gr
     flags |= (mods & XCB_MOD_MASK_4) != 0 ? EventFlag::command : 0;
     return flags;
+}
+
+KeyEvents::Obstacle X11KeyEvents::obstacle(uint16_t keyCode)
+{
+    m_keymap.refresh();
+    const auto key = keyCode == KeyCode::v ? vKey() : X11Keys::fromKeyCode(keyCode);
+    if (m_hotKeys.isHeld()) {
+        return Obstacle::OwnHotKey;
+    }
+    if (key && X11Keys::heldKeys(m_connection.xcb())[*key]) {
+        return Obstacle::HeldKey;
+    }
+    if (!m_focus.isSomewhere()) {
+        return Obstacle::NoFocus;
+    }
+    return isKeyboardGrabbed() ? Obstacle::OtherGrab : Obstacle::None;
+}
+
+/// There is no question for it: whoever may grab the keyboard finds it free. The program in front is told of the grab
+/// as it is of each hot key's.
+bool X11KeyEvents::isKeyboardGrabbed()
+{
+    auto *const c = m_connection.xcb();
+    const XcbPtr<xcb_grab_keyboard_reply_t> reply(xcb_grab_keyboard_reply(
+        c, xcb_grab_keyboard(c, 0, m_connection.root(), XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+        nullptr));
+    if (!reply || reply->status != XCB_GRAB_STATUS_SUCCESS) {
+        return true;
+    }
+    xcb_ungrab_keyboard(c, XCB_CURRENT_TIME);
+    return false;
 }
 
 bool X11KeyEvents::post(uint16_t keyCode, bool down, uint32_t flags)
@@ -110,52 +139,18 @@ void X11KeyEvents::fake(uint8_t type, uint8_t code)
     xcb_test_fake_input(m_connection.xcb(), type, code, XCB_CURRENT_TIME, noWindow, 0, 0, 0);
 }
 
-X11KeyEvents::Chord X11KeyEvents::pasteChord()
+uint8_t X11KeyEvents::vKey()
 {
     // Where no layout of the user types "v", toolkits take the key where "v" stands on a Latin keyboard.
-    const auto v = m_keymap.keyFor(XKB_KEY_v).value_or(code(KEY_V));
-    if (isTerminalFocused()) {
-        return {code(KEY_LEFTCTRL), code(KEY_LEFTSHIFT), v};
-    }
-    return {code(KEY_LEFTCTRL), v};
+    return m_keymap.keyFor(XKB_KEY_v).value_or(code(KEY_V));
 }
 
-bool X11KeyEvents::isTerminalFocused()
+X11KeyEvents::Chord X11KeyEvents::pasteChord()
 {
-    auto *const c = m_connection.xcb();
-    const XcbPtr<xcb_get_input_focus_reply_t> focus(xcb_get_input_focus_reply(c, xcb_get_input_focus(c), nullptr));
-    // The class stands on the top-level window, the focus may be on one inside it.
-    for (auto window = focus ? focus->focus : noWindow; window > XCB_INPUT_FOCUS_POINTER_ROOT;) {
-        if (const auto terminal = isTerminal(window)) {
-            return *terminal;
-        }
-        const XcbPtr<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(c, xcb_query_tree(c, window), nullptr));
-        window = tree ? tree->parent : noWindow;
+    Chord chord{m_keymap.keyForModifier(XCB_MOD_MASK_CONTROL).value_or(code(KEY_LEFTCTRL))};
+    if (m_focus.isIn(m_terminalClasses)) {
+        chord.push_back(m_keymap.keyForModifier(XCB_MOD_MASK_SHIFT).value_or(code(KEY_LEFTSHIFT)));
     }
-    return isTerminal(activeWindow()).value_or(false);
-}
-
-/// Nothing when the window has no class.
-std::optional<bool> X11KeyEvents::isTerminal(xcb_window_t window)
-{
-    const auto reply = property(m_connection.xcb(), window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING);
-    if (!reply || reply->type != XCB_ATOM_STRING) {
-        return std::nullopt;
-    }
-    const auto text = QString::fromLatin1(static_cast<const char *>(xcb_get_property_value(reply.get())),
-                                          xcb_get_property_value_length(reply.get()));
-    const auto names = text.split(QChar(u'\0'), Qt::SkipEmptyParts); // instance, then class
-    return std::ranges::any_of(
-        names, [this](const QString &name) { return m_terminalClasses.contains(name, Qt::CaseInsensitive); });
-}
-
-/// What the window manager calls active: some toolkits put the focus on a window outside their top-level one.
-xcb_window_t X11KeyEvents::activeWindow()
-{
-    const auto reply =
-        property(m_connection.xcb(), m_connection.root(), m_connection.atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW);
-    if (!reply || xcb_get_property_value_length(reply.get()) < int(sizeof(xcb_window_t))) {
-        return noWindow;
-    }
-    return *static_cast<const xcb_window_t *>(xcb_get_property_value(reply.get()));
+    chord.push_back(vKey());
+    return chord;
 }

@@ -13,36 +13,26 @@
 
 namespace {
 
-struct ModifierKey {
+/// Keys that are told from their twins, whatever the layout makes of them.
+struct SidedKey {
     uint16_t evdevCode;
-    uint32_t flags;
+    uint32_t flag;
 };
 
-constexpr std::array modifierKeys{
-    ModifierKey{KEY_LEFTCTRL, EventFlag::control | EventFlag::leftControl},
-    ModifierKey{KEY_RIGHTCTRL, EventFlag::control | EventFlag::rightControl},
-    ModifierKey{KEY_LEFTSHIFT, EventFlag::shift | EventFlag::leftShift},
-    ModifierKey{KEY_RIGHTSHIFT, EventFlag::shift | EventFlag::rightShift},
-    ModifierKey{KEY_LEFTALT, EventFlag::option | EventFlag::leftOption},
-    ModifierKey{KEY_RIGHTALT, EventFlag::option | EventFlag::rightOption},
-    ModifierKey{KEY_LEFTMETA, EventFlag::command | EventFlag::leftCommand},
-    ModifierKey{KEY_RIGHTMETA, EventFlag::command | EventFlag::rightCommand},
+constexpr std::array sidedKeys{
+    SidedKey{KEY_LEFTCTRL, EventFlag::leftControl}, SidedKey{KEY_RIGHTCTRL, EventFlag::rightControl},
+    SidedKey{KEY_LEFTSHIFT, EventFlag::leftShift},  SidedKey{KEY_RIGHTSHIFT, EventFlag::rightShift},
+    SidedKey{KEY_LEFTALT, EventFlag::leftOption},   SidedKey{KEY_RIGHTALT, EventFlag::rightOption},
+    SidedKey{KEY_LEFTMETA, EventFlag::leftCommand}, SidedKey{KEY_RIGHTMETA, EventFlag::rightCommand},
 };
 
-bool isModifier(uint16_t evdevCode)
-{
-    return evdevCode == KEY_CAPSLOCK ||
-           std::ranges::find(modifierKeys, evdevCode, &ModifierKey::evdevCode) != modifierKeys.end();
-}
+constexpr std::pair<uint16_t, uint32_t> sharedFlags[] = {{XCB_MOD_MASK_SHIFT, EventFlag::shift},
+                                                         {XCB_MOD_MASK_CONTROL, EventFlag::control},
+                                                         {XCB_MOD_MASK_1, EventFlag::option},
+                                                         {XCB_MOD_MASK_4, EventFlag::command}};
 
-uint32_t flagsOf(const std::bitset<256> &held)
-{
-    uint32_t flags = 0;
-    for (const auto &key : modifierKeys) {
-        flags |= held[key.evdevCode + X11Keys::evdevOffset] ? key.flags : 0;
-    }
-    return flags;
-}
+// What a hot key may ask for; with another modifier down, such as Alt Gr, the key types something.
+constexpr uint16_t hotKeyModifiers = XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
 
 } // namespace
 
@@ -136,22 +126,48 @@ void X11KeyMonitors::change(uint8_t code, bool down)
         return; // auto-repeat, or the release of a key whose press nobody saw
     }
     m_held[code] = down;
-    const auto evdevCode = uint16_t(code - X11Keys::evdevOffset);
-    const auto keyCode = KeyCode::fromEvdev(evdevCode);
-    const bool modifier = isModifier(evdevCode);
-    if (!keyCode || (!modifier && !down)) {
+    std::bitset<256> alone;
+    alone.set(code);
+    const bool sided =
+        std::ranges::find(sidedKeys, code - X11Keys::evdevOffset, &SidedKey::evdevCode) != sidedKeys.end();
+    const bool modifier = sided || m_keymap.modifiersOf(alone) != 0;
+    if (!modifier && !down) {
         return;
     }
-    if (evdevCode == KEY_CAPSLOCK) {
+    if (m_keymap.types(code, XKB_KEY_Caps_Lock)) {
         m_capsLocked = isCapsLocked();
     }
     KeyEvent event{.type = modifier ? KeyEvent::Type::FlagsChanged : KeyEvent::Type::KeyDown,
-                   .keyCode = *keyCode,
-                   .modifierFlags = flagsOf(m_held) | (m_capsLocked ? EventFlag::capsLock : 0)};
+                   .keyCode = keyCodeOf(code),
+                   .modifierFlags = flags()};
     if (!modifier) {
+        const uint16_t others = m_keymap.modifiersOf(m_held) & uint16_t(~hotKeyModifiers);
         event.charactersIgnoringModifiers = m_keymap.text(code);
+        event.canBeHotKey = event.keyCode != KeyCode::unknown && (others & ~m_keymap.lockModifiers()) == 0;
     }
     report(event);
+}
+
+uint16_t X11KeyMonitors::keyCodeOf(uint8_t code)
+{
+    if (m_keymap.types(code, XKB_KEY_Escape)) {
+        return KeyCode::escape;
+    }
+    const auto keyCode = KeyCode::fromEvdev(uint16_t(code - X11Keys::evdevOffset)).value_or(KeyCode::unknown);
+    return keyCode == KeyCode::escape ? KeyCode::unknown : keyCode;
+}
+
+uint32_t X11KeyMonitors::flags()
+{
+    uint32_t flags = m_capsLocked ? EventFlag::capsLock : 0;
+    for (const auto &key : sidedKeys) {
+        flags |= m_held[key.evdevCode + X11Keys::evdevOffset] ? key.flag : 0;
+    }
+    const auto modifiers = m_keymap.modifiersOf(m_held);
+    for (const auto &[mask, flag] : sharedFlags) {
+        flags |= (modifiers & mask) != 0 ? flag : 0;
+    }
+    return flags;
 }
 
 void X11KeyMonitors::report(const KeyEvent &event)
@@ -170,6 +186,11 @@ void X11KeyMonitors::report(const KeyEvent &event)
             handler(event);
         }
     }
+}
+
+bool X11KeyMonitors::canSee(uint16_t keyCode) const
+{
+    return m_connection.extensions().rawKeys && X11Keys::fromKeyCode(keyCode).has_value();
 }
 
 bool X11KeyMonitors::isCapsLocked() const

@@ -18,6 +18,7 @@ public:
 
     [[nodiscard]] std::unique_ptr<KeyMonitor> addGlobal(Handler handler) override;
     [[nodiscard]] std::unique_ptr<KeyMonitor> addLocal(Handler handler) override;
+    bool canSee(uint16_t keyCode) const override;
 
 private:
     class Monitor;
@@ -34,6 +35,8 @@ private:
 
     void handle(const xcb_generic_event_t &event) override;
     void change(uint8_t code, bool down);
+    uint16_t keyCodeOf(uint8_t code);
+    uint32_t flags();
     void report(const KeyEvent &event);
     bool isCapsLocked() const;
 

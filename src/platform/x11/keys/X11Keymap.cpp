@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/keys/X11Keymap.h"
 
+#include "platform/x11/keys/X11Keys.h"
+
 #include <linux/input-event-codes.h>
 #include <xkbcommon/xkbcommon-x11.h>
 
@@ -33,10 +35,10 @@ std::array<std::vector<uint8_t>, 8> modifierTable(xcb_connection_t *connection)
     return table;
 }
 
-xkb_keysym_t symbolAt(xkb_keymap *keymap, xkb_keycode_t code, xkb_layout_index_t group)
+xkb_keysym_t symbolAt(xkb_keymap *keymap, xkb_keycode_t code, xkb_layout_index_t group, xkb_level_index_t level = 0)
 {
     const xkb_keysym_t *symbols = nullptr;
-    const int count = xkb_keymap_key_get_syms_by_level(keymap, code, group, 0, &symbols);
+    const int count = xkb_keymap_key_get_syms_by_level(keymap, code, group, level, &symbols);
     return count == 1 ? symbols[0] : XKB_KEY_NoSymbol;
 }
 
@@ -154,7 +156,14 @@ xkb_keymap *X11Keymap::keymap()
 QString X11Keymap::text(uint8_t code)
 {
     auto *const map = keymap();
-    const uint32_t character = map == nullptr ? 0 : characterOf(symbolAt(map, code, m_group));
+    if (map == nullptr) {
+        return {};
+    }
+    auto symbol = symbolAt(map, code, m_group);
+    if (symbol >= XKB_KEY_KP_Home && symbol <= XKB_KEY_KP_Delete) {
+        symbol = symbolAt(map, code, m_group, 1);
+    }
+    const uint32_t character = characterOf(symbol);
     return character == 0 ? QString() : QString::fromUcs4(reinterpret_cast<const char32_t *>(&character), 1);
 }
 
@@ -179,6 +188,48 @@ std::optional<uint8_t> X11Keymap::keyFor(xkb_keysym_t symbol, xkb_layout_index_t
         }
     }
     return std::nullopt;
+}
+
+bool X11Keymap::types(uint8_t code, xkb_keysym_t symbol)
+{
+    auto *const map = keymap();
+    const xkb_layout_index_t groups = map == nullptr ? 0 : xkb_keymap_num_layouts_for_key(map, code);
+    for (xkb_layout_index_t group = 0; group < groups; ++group) {
+        if (symbolAt(map, code, group) == symbol) {
+            return true;
+        }
+    }
+    return false;
+}
+
+uint16_t X11Keymap::modifiersOf(const std::bitset<256> &held)
+{
+    constexpr xkb_mod_mask_t coreModifiers = 0xFF; // the first eight, in the order of the core protocol
+    auto *const map = keymap();
+    if (map == nullptr) {
+        return 0;
+    }
+    const std::unique_ptr<xkb_state, Unref> state(xkb_state_new(map));
+    xkb_state_update_mask(state.get(), 0, 0, 0, 0, 0, m_group);
+    for (size_t code = 0; code < held.size(); ++code) {
+        if (held[code]) {
+            xkb_state_update_key(state.get(), xkb_keycode_t(code), XKB_KEY_DOWN);
+        }
+    }
+    return uint16_t(xkb_state_serialize_mods(state.get(), XKB_STATE_MODS_DEPRESSED) & coreModifiers);
+}
+
+std::optional<uint8_t> X11Keymap::keyForModifier(uint16_t modifier)
+{
+    // The usual places first: elsewhere may stand a key that the keyboard does not have.
+    auto keys = modifierKeys();
+    std::ranges::stable_partition(keys, [](uint8_t key) { return key < X11Keys::evdevOffset + KEY_F11; });
+    const auto found = std::ranges::find_if(keys, [&](uint8_t key) {
+        std::bitset<256> alone;
+        alone.set(key);
+        return modifiersOf(alone) == modifier;
+    });
+    return found == keys.end() ? std::nullopt : std::optional(*found);
 }
 
 uint16_t X11Keymap::lockModifiers()

@@ -6,6 +6,7 @@
 #include <QString>
 #include <xkbcommon/xkbcommon.h>
 
+#include <bitset>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -21,11 +22,22 @@ public:
     /// Takes in the changes that happened until now; without it they are taken in from the event loop.
     void refresh();
 
-    /// What a key types in the current group without modifiers; empty when it types nothing.
+    /// What a key types in the current group without modifiers, a key of the keypad as if NumLock were on; empty when
+    /// it types nothing.
     QString text(uint8_t code);
 
     /// A key that types the symbol without modifiers: in the current group, else in any other.
     std::optional<uint8_t> keyFor(xkb_keysym_t symbol);
+
+    /// Whether the key types the symbol without modifiers, in any group.
+    bool types(uint8_t code, xkb_keysym_t symbol);
+
+    /// The modifiers of the core protocol that these keys set while they are held, as the layout has it: a layout may
+    /// make Caps Lock a Control key, or swap Alt and Super.
+    uint16_t modifiersOf(const std::bitset<256> &held);
+
+    /// A key that sets this modifier and no other.
+    std::optional<uint8_t> keyForModifier(uint16_t modifier);
 
     /// The modifiers that only lock keys set: Lock, and those of NumLock and ScrollLock.
     uint16_t lockModifiers();
@@ -41,6 +53,7 @@ private:
     struct Unref {
         void operator()(xkb_context *context) const { xkb_context_unref(context); }
         void operator()(xkb_keymap *keymap) const { xkb_keymap_unref(keymap); }
+        void operator()(xkb_state *state) const { xkb_state_unref(state); }
     };
 
     explicit X11Keymap(X11Connection &connection);
