@@ -65,5 +65,5 @@ function(quillo_test name)
     target_precompile_headers(${name} REUSE_FROM ${arg_HEADERS})
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=NPT-5:45")
 endfunction()

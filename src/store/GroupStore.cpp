@@ -2,8 +2,11 @@
 #include "store/GroupStore.h"
 
 #include "platform/Preferences.h"
+#include "store/newIdentifier.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 
 #include <algorithm>
 #include <utility>
@@ -14,19 +17,10 @@ namespace {
 
 const QString activeIdKey = u"activeGroupId"_s;
 
-std::optional<DictationGroup> decode(const QJsonValue &value)
-{
-    const QJsonObject object = value.toObject();
-    const auto id = stringAt(object, u"id"_s);
-    const auto name = stringAt(object, u"name"_s);
-    const auto kind = stringAt(object, u"kind"_s);
-    return id && name && kind ? std::optional(DictationGroup{*id, *name, *kind}) : std::nullopt;
-}
-
 } // namespace
 
-GroupStore::GroupStore(Files &files, Preferences &preferences)
-    : m_preferences(preferences), m_file(files, u"groups.json"_s)
+GroupStore::GroupStore(Files &files, Preferences &preferences, Clock &clock)
+    : RecordStore(files, clock, u"groups.json"_s, u"groups"_s), m_preferences(preferences)
 {
     load();
     const auto stored = group(m_preferences.string(activeIdKey));
@@ -50,53 +44,69 @@ void GroupStore::setActiveId(const std::optional<QString> &id)
 std::optional<DictationGroup> GroupStore::group(const std::optional<QString> &id) const
 {
     const auto found =
-        std::ranges::find_if(m_groups, [&](const DictationGroup &candidate) { return candidate.id == id; });
-    return found == m_groups.end() ? std::nullopt : std::optional(*found);
+        std::ranges::find_if(groups(), [&](const DictationGroup &candidate) { return candidate.id == id; });
+    return found == groups().end() ? std::nullopt : std::optional(*found);
 }
 
 DictationGroup GroupStore::add(const QString &name)
 {
     DictationGroup added{newIdentifier(), name, u"folder"_s};
-    m_groups.append(added);
-    save();
+    change([added](QList<DictationGroup> &groups) { groups.append(added); });
     return added;
 }
 
 void GroupStore::rename(const QString &id, const QString &name)
 {
-    const auto found = std::ranges::find(m_groups, id, &DictationGroup::id);
-    if (found != m_groups.end()) {
-        found->name = name;
-        save();
+    if (!group(id)) {
+        return;
     }
+    change([id, name](QList<DictationGroup> &groups) {
+        const auto found = std::ranges::find(groups, id, &DictationGroup::id);
+        if (found != groups.end()) {
+            found->name = name;
+        }
+    });
 }
 
 void GroupStore::remove(const QString &id)
 {
-    m_groups.removeIf([&](const DictationGroup &candidate) { return candidate.id == id; });
     if (m_activeId == id) {
         setActiveId(std::nullopt);
     }
-    save();
+    change([id](QList<DictationGroup> &groups) {
+        groups.removeIf([&](const DictationGroup &candidate) { return candidate.id == id; });
+    });
 }
 
 void GroupStore::move(const std::set<qsizetype> &sources, qsizetype destination)
 {
-    QList<DictationGroup> before;
-    QList<DictationGroup> moved;
-    QList<DictationGroup> after;
-    for (qsizetype i = 0; i < m_groups.size(); ++i) {
-        auto &place = sources.contains(i) ? moved : i < destination ? before : after;
-        place.append(m_groups.at(i));
+    // By identifier, as the places in a file that somebody else has written meanwhile may be others.
+    QStringList order;
+    for (const bool isBefore : {true, false}) {
+        for (qsizetype i = 0; i < groups().size(); ++i) {
+            if (!sources.contains(i) && (i < destination) == isBefore) {
+                order.append(groups().at(i).id);
+            }
+        }
+        for (qsizetype i = 0; isBefore && i < groups().size(); ++i) {
+            if (sources.contains(i)) {
+                order.append(groups().at(i).id);
+            }
+        }
     }
-    m_groups = before + moved + after;
-    save();
+    change([order](QList<DictationGroup> &groups) {
+        const auto place = [&](const DictationGroup &group) {
+            const qsizetype found = order.indexOf(group.id);
+            return found < 0 ? order.size() : found;
+        };
+        std::ranges::stable_sort(groups, {}, place);
+    });
 }
 
 void GroupStore::cycle(bool forward)
 {
     QList<std::optional<QString>> positions{std::nullopt};
-    for (const DictationGroup &candidate : std::as_const(m_groups)) {
+    for (const DictationGroup &candidate : groups()) {
         positions.append(candidate.id);
     }
     const qsizetype current = std::max<qsizetype>(positions.indexOf(m_activeId), 0);
@@ -104,29 +114,35 @@ void GroupStore::cycle(bool forward)
     setActiveId(positions.at((current + step) % positions.size()));
 }
 
-void GroupStore::load()
+void GroupStore::change(Change change)
 {
-    const auto stored = m_file.read();
-    if (!stored) {
-        return;
-    }
-    QList<DictationGroup> groups;
-    for (const auto &value : *stored) {
-        const auto group = decode(value);
-        if (!group) {
-            return; // one bad element makes the whole file unreadable
-        }
-        groups.append(*group);
-    }
-    m_groups = std::move(groups);
+    apply(std::move(change));
+    save();
+    announce();
 }
 
-void GroupStore::save()
+std::optional<DictationGroup> GroupStore::decode(const JsonRecord &object) const
+{
+    const auto id = object.string("id");
+    const auto name = object.string("name");
+    const auto kind = object.string("kind");
+    return id && name && kind ? std::optional(DictationGroup{*id, *name, *kind}) : std::nullopt;
+}
+
+void GroupStore::announce()
+{
+    Q_EMIT groupsChanged();
+    if (m_activeId && !group(m_activeId)) {
+        setActiveId(std::nullopt); // removed elsewhere
+    }
+}
+
+QList<QByteArrayView> GroupStore::encoded()
 {
     QJsonArray array;
-    for (const DictationGroup &group : std::as_const(m_groups)) {
+    for (const DictationGroup &group : groups()) {
         array.append(QJsonObject{{u"id"_s, group.id}, {u"name"_s, group.name}, {u"kind"_s, group.kind}});
     }
-    m_file.write({QJsonDocument(array).toJson(QJsonDocument::Compact)});
-    Q_EMIT groupsChanged();
+    m_json = QJsonDocument(array).toJson(QJsonDocument::Compact);
+    return {m_json};
 }

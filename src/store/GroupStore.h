@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "store/JsonArrayFile.h"
+#include "store/RecordStore.h"
 
 #include <QList>
-#include <QObject>
 #include <QString>
 
 #include <optional>
@@ -25,13 +24,16 @@ struct DictationGroup {
 
 /// The ordered groups, mirrored in "groups.json", and the active one, remembered under the preference
 /// "activeGroupId". No active group means "All entries". Main thread only; every change is stored before it returns.
-class GroupStore : public QObject {
+class GroupStore final : public RecordStore<DictationGroup> {
     Q_OBJECT
 
 public:
-    GroupStore(Files &files, Preferences &preferences);
+    GroupStore(Files &files, Preferences &preferences, Clock &clock);
+    GroupStore(const GroupStore &) = delete;
+    GroupStore &operator=(const GroupStore &) = delete;
+    ~GroupStore() override { saveAtEnd(); }
 
-    const QList<DictationGroup> &groups() const { return m_groups; }
+    const QList<DictationGroup> &groups() const { return records(); }
     const std::optional<QString> &activeId() const { return m_activeId; }
     void setActiveId(const std::optional<QString> &id);
 
@@ -52,18 +54,17 @@ public:
     /// Makes the next or previous position active, "All entries" included, wrapping around.
     void cycle(bool forward);
 
-    QString filePath() const { return m_file.path(); }
-
 Q_SIGNALS:
     void groupsChanged();
     void activeIdChanged();
 
 private:
-    void load();
-    void save();
+    void change(Change change);
+    std::optional<DictationGroup> decode(const JsonRecord &object) const override;
+    void announce() override;
+    QList<QByteArrayView> encoded() override;
 
     Preferences &m_preferences;
-    JsonArrayFile m_file;
-    QList<DictationGroup> m_groups;
+    QByteArray m_json;
     std::optional<QString> m_activeId;
 };

@@ -3,29 +3,20 @@
 
 #include "platform/Clock.h"
 #include "store/JsonWriter.h"
+#include "store/newIdentifier.h"
 
 #include <QDateTime>
+#include <QFile>
+#include <QSet>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-std::optional<Transcription> decode(const QJsonValue &value)
-{
-    const QJsonObject object = value.toObject();
-    const auto id = stringAt(object, u"id"_s);
-    const auto text = stringAt(object, u"text"_s);
-    const auto timestamp = stringAt(object, u"timestamp"_s);
-    const QJsonValue group = object.value(u"categoryId"_s);
-    if (!id || !text || !timestamp || !(group.isUndefined() || group.isNull() || group.isString())) {
-        return std::nullopt;
-    }
-    return Transcription{*id, *text, *timestamp, group.isString() ? std::optional(group.toString()) : std::nullopt};
-}
 
 void encode(JsonWriter &json, const Transcription &entry)
 {
@@ -46,8 +37,8 @@ QString timestamp(Clock::Instant now)
 
 } // namespace
 
-TranscriptionStore::TranscriptionStore(Files &files, const Clock &clock)
-    : m_clock(clock), m_file(files, u"transcriptions.json"_s)
+TranscriptionStore::TranscriptionStore(Files &files, Clock &clock)
+    : RecordStore(files, clock, u"transcriptions.json"_s, u"history"_s), m_clock(clock)
 {
     load();
 }
@@ -55,10 +46,10 @@ TranscriptionStore::TranscriptionStore(Files &files, const Clock &clock)
 QList<Transcription> TranscriptionStore::items(const std::optional<QString> &groupId) const
 {
     if (!groupId) {
-        return m_items;
+        return items();
     }
     QList<Transcription> filed;
-    std::ranges::copy_if(m_items, std::back_inserter(filed),
+    std::ranges::copy_if(items(), std::back_inserter(filed),
                          [&](const Transcription &entry) { return entry.categoryId == groupId; });
     return filed;
 }
@@ -68,79 +59,128 @@ void TranscriptionStore::add(const QString &text, const std::optional<QString> &
     const Transcription entry{newIdentifier(), text, timestamp(m_clock.now()), groupId};
     JsonWriter json;
     encode(json, entry);
-    json.raw(m_items.isEmpty() ? "" : ",");
-    m_items.prepend(entry);
+    json.raw(items().isEmpty() ? "" : ",");
     m_entriesJson.prepend(json.bytes());
-    save();
-    Q_EMIT added();
+    apply([entry](QList<Transcription> &items) { items.prepend(entry); });
+    saveAndTell([this] { Q_EMIT added(); });
 }
 
 void TranscriptionStore::move(const QString &id, const std::optional<QString> &groupId)
 {
-    const auto entry = std::ranges::find(m_items, id, &Transcription::id);
-    if (entry != m_items.end()) {
-        entry->categoryId = groupId;
-        const auto place = entry - m_items.begin();
-        encodeAll();
-        save();
-        Q_EMIT changed(place);
+    const auto place = std::ranges::find(items(), id, &Transcription::id) - items().begin();
+    if (place == items().size()) {
+        return;
     }
+    apply([id, groupId](QList<Transcription> &items) {
+        const auto entry = std::ranges::find(items, id, &Transcription::id);
+        if (entry != items.end()) {
+            entry->categoryId = groupId;
+        }
+    });
+    encodeAll();
+    saveAndTell([this, place] { Q_EMIT changed(place); });
 }
 
 void TranscriptionStore::remove(const QString &id)
 {
-    const auto place = std::ranges::find(m_items, id, &Transcription::id) - m_items.begin();
-    const auto count = m_items.removeIf([&](const Transcription &entry) { return entry.id == id; });
+    const auto place = std::ranges::find(items(), id, &Transcription::id) - items().begin();
+    const qsizetype count = items().size();
+    apply([id](QList<Transcription> &items) {
+        items.removeIf([&](const Transcription &entry) { return entry.id == id; });
+    });
+    const bool isOne = count - items().size() == 1;
     encodeAll();
-    save();
-    if (count == 1) {
-        Q_EMIT removed(place);
-    } else {
-        Q_EMIT reset();
-    }
+    saveAndTell([this, place, isOne] {
+        if (isOne) {
+            Q_EMIT removed(place);
+        } else {
+            Q_EMIT reset();
+        }
+    });
 }
 
 void TranscriptionStore::clear()
 {
-    m_items.clear();
+    // Not those that another login has dictated meanwhile, which nobody has seen here.
+    QSet<QString> ids;
+    for (const Transcription &entry : items()) {
+        ids.insert(entry.id);
+    }
+    apply([ids](QList<Transcription> &items) {
+        items.removeIf([&](const Transcription &entry) { return ids.contains(entry.id); });
+    });
     encodeAll();
-    save();
-    Q_EMIT reset();
+    saveAndTell([this] { Q_EMIT reset(); });
 }
 
-void TranscriptionStore::load()
+std::optional<qsizetype> TranscriptionStore::recover(const QString &path)
 {
-    const auto stored = m_file.read();
-    if (!stored) {
-        return;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
     }
-    QList<Transcription> items;
-    items.reserve(stored->size());
-    for (const auto &value : *stored) {
-        auto entry = decode(value);
-        if (!entry) {
-            return; // one bad element makes the whole file unreadable: no guess at what the rest was meant to be
+    QList<Transcription> found;
+    salvageJsonRecords(file.readAll(), [&](const JsonRecord &object) {
+        if (auto entry = decode(object)) {
+            found.append(*std::move(entry));
         }
-        items.append(std::move(*entry));
-    }
-    m_items = std::move(items);
+        return true;
+    });
+    const qsizetype count = items().size();
+    apply([found](QList<Transcription> &items) {
+        QSet<QString> ids;
+        for (const Transcription &entry : std::as_const(items)) {
+            ids.insert(entry.id);
+        }
+        QList<Transcription> missing;
+        std::ranges::copy_if(found, std::back_inserter(missing),
+                             [&](const Transcription &entry) { return !ids.contains(entry.id); });
+        QList<Transcription> merged;
+        std::ranges::merge(missing, items, std::back_inserter(merged), std::ranges::greater(),
+                           &Transcription::timestamp, &Transcription::timestamp);
+        items = std::move(merged);
+    });
     encodeAll();
+    saveAndTell([this] { Q_EMIT reset(); });
+    return items().size() - count;
+}
+
+std::optional<Transcription> TranscriptionStore::decode(const JsonRecord &object) const
+{
+    const auto id = object.string("id");
+    const auto text = object.string("text");
+    const auto timestamp = object.string("timestamp");
+    if (!id || !text || !timestamp || !object.isStringOrNull("categoryId")) {
+        return std::nullopt;
+    }
+    return Transcription{*id, *text, *timestamp, object.string("categoryId")};
+}
+
+void TranscriptionStore::announce()
+{
+    Q_EMIT itemsChanged();
+    Q_EMIT reset();
 }
 
 void TranscriptionStore::encodeAll()
 {
     JsonWriter json;
-    for (qsizetype i = 0; i < m_items.size(); ++i) {
+    for (qsizetype i = 0; i < items().size(); ++i) {
         if (i > 0) {
             json.raw(",");
         }
-        encode(json, m_items.at(i));
+        encode(json, items().at(i));
     }
     m_entriesJson = json.bytes();
 }
 
-void TranscriptionStore::save()
+/// `tell` says what changed, unless others have changed more.
+void TranscriptionStore::saveAndTell(const std::function<void()> &tell)
 {
-    m_file.write({"[", m_entriesJson, "]"});
+    if (save()) {
+        announce();
+        return;
+    }
     Q_EMIT itemsChanged();
+    tell();
 }

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "store/JsonArrayFile.h"
+#include "store/RecordStore.h"
 
 #include <QByteArray>
 #include <QList>
-#include <QObject>
 #include <QString>
 
 #include <optional>
-
-class Clock;
 
 /// One dictated text of the history.
 struct Transcription {
@@ -26,14 +23,17 @@ struct Transcription {
 };
 
 /// The dictation history, newest first, mirrored in "transcriptions.json": the file is rewritten before a change
-/// returns. Main thread only. Failing reads give an empty history, failing writes are silent.
-class TranscriptionStore : public QObject {
+/// returns. Main thread only.
+class TranscriptionStore final : public RecordStore<Transcription> {
     Q_OBJECT
 
 public:
-    TranscriptionStore(Files &files, const Clock &clock);
+    TranscriptionStore(Files &files, Clock &clock);
+    TranscriptionStore(const TranscriptionStore &) = delete;
+    TranscriptionStore &operator=(const TranscriptionStore &) = delete;
+    ~TranscriptionStore() override { saveAtEnd(); }
 
-    const QList<Transcription> &items() const { return m_items; }
+    const QList<Transcription> &items() const { return records(); }
 
     /// The entries of one group, in order; without a group, all.
     QList<Transcription> items(const std::optional<QString> &groupId) const;
@@ -47,7 +47,9 @@ public:
     void remove(const QString &id);
     void clear();
 
-    QString filePath() const { return m_file.path(); }
+    /// Takes over the entries that can be read in a damaged history and are not there yet, each at the place of its
+    /// time. How many; nothing when the file can't be opened.
+    std::optional<qsizetype> recover(const QString &path);
 
 Q_SIGNALS:
     void itemsChanged();
@@ -61,13 +63,15 @@ Q_SIGNALS:
     void reset();
 
 private:
-    void load();
+    std::optional<Transcription> decode(const JsonRecord &object) const override;
+    void replaced() override { encodeAll(); }
+    void announce() override;
+    QList<QByteArrayView> encoded() override { return {"[", m_entriesJson, "]"}; }
+
     void encodeAll();
-    void save();
+    void saveAndTell(const std::function<void()> &tell);
 
     const Clock &m_clock;
-    JsonArrayFile m_file;
-    QList<Transcription> m_items;
     /// What the file holds between its brackets. Kept, so that a new entry costs the encoding of that entry alone.
     QByteArray m_entriesJson;
 };

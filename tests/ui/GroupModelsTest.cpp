@@ -31,7 +31,7 @@ protected:
     }
 
     FakePlatform fake;
-    GroupStore groups{fake.files, fake.preferences};
+    GroupStore groups{fake.files, fake.preferences, fake.clock};
     GroupEditorModel editor{groups};
     GroupCarouselModel carousel{groups};
     QAbstractItemModelTester editorTester{&editor, QAbstractItemModelTester::FailureReportingMode::Fatal};

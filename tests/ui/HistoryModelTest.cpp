@@ -42,7 +42,7 @@ protected:
 
     FakePlatform fake;
     TranscriptionStore store{fake.files, fake.clock};
-    GroupStore groups{fake.files, fake.preferences};
+    GroupStore groups{fake.files, fake.preferences, fake.clock};
     HistoryModel model{store, groups, fake.pasteboard, fake.clock};
     const HistoryRows &rows = *model.rows();
     /// Fails the test when rows change without the model saying so.

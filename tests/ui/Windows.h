@@ -75,7 +75,7 @@ struct Windows {
     Pasteboard &pasteboard;
     KeyMonitors &keyMonitors;
     TranscriptionStore store{fake.files, fake.clock};
-    GroupStore groups{fake.files, fake.preferences};
+    GroupStore groups{fake.files, fake.preferences, fake.clock};
     QQmlEngine engine;
     QQmlPropertyMap calls;
     QQmlPropertyMap model;

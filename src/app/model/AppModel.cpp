@@ -45,7 +45,7 @@ AppModel::AppModel(const Platform &platform, ApiClient &client, AIConsent &conse
       m_groupShortcut(StoredShortcut::read(platform.preferences, Use::Group)),
       m_historyShortcut(StoredShortcut::read(platform.preferences, Use::History)),
       m_store(platform.files, platform.clock),
-      m_groups(platform.files, platform.preferences),
+      m_groups(platform.files, platform.preferences, platform.clock),
       m_historyWindow(platform.application, platform.preferences, platform.screens, std::move(views.history)),
       m_consentWindow(consent, platform.packagedInfo, platform.application, platform.screens, std::move(views.consent)),
       m_settingsWindow(platform.application, platform.screens, std::move(views.settings)),

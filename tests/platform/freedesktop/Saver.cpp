@@ -16,7 +16,7 @@ int main(int argc, char *argv[])
     const QString path = QFile::decodeName(argv[1]);
     const QByteArray contents[] = {SaverContent::first(), SaverContent::second()};
     for (unsigned save = 0;; ++save) {
-        if (!files.replace(path, SaverContent::pieces(contents[save % 2])) || std::puts("saved") < 0 ||
+        if (files.replace(path, SaverContent::pieces(contents[save % 2])) || std::puts("saved") < 0 ||
             std::fflush(stdout) != 0) {
             return 1;
         }

@@ -7,16 +7,21 @@
 #include "support/Printing.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QScopeGuard>
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <functional>
 #include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -57,8 +62,8 @@ TEST_F(XdgFilesTest, FilesAndFoldersAreTheOwnersAlone)
 {
     const mode_t mask = ::umask(0);
     const auto restore = qScopeGuard([mask] { ::umask(mask); });
-    put(path + u".new"_s, "left by a crash, readable by all");
-    ASSERT_TRUE(files.replace(path, {"one", "", " two"}));
+    put(path + u".new-%1"_s.arg(::getpid()), "left by a crash, readable by all");
+    ASSERT_FALSE(files.replace(path, {"one", "", " two"}));
     EXPECT_EQ(contentOf(path), "one two");
     EXPECT_EQ(modeOf(path), 0600U);
     EXPECT_EQ(everything(), QStringList{u"records.json"_s});
@@ -72,7 +77,7 @@ TEST_F(XdgFilesTest, FilesAndFoldersAreTheOwnersAlone)
 
 TEST_F(XdgFilesTest, FailedSaveKeepsTheOldFileAndLeavesNothing)
 {
-    ASSERT_TRUE(files.replace(path, {"old"}));
+    ASSERT_FALSE(files.replace(path, {"old"}));
     const auto tooLong = SaverContent::first();
     {
         rlimit limit{};
@@ -84,15 +89,15 @@ TEST_F(XdgFilesTest, FailedSaveKeepsTheOldFileAndLeavesNothing)
             std::signal(SIGXFSZ, handler);
         });
         ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-        EXPECT_FALSE(files.replace(path, {tooLong})) << "no more room, as on a full disk";
+        EXPECT_EQ(files.replace(path, {tooLong}), std::errc::file_too_large) << "no more room, as on a full disk";
     }
-    EXPECT_FALSE(files.replace(path + u"/below"_s, {"new"})) << "below a file";
-    EXPECT_FALSE(files.replace(folder.filePath(u"missing/file"_s), {"new"})) << "in no folder";
+    EXPECT_EQ(files.replace(path + u"/below"_s, {"new"}), std::errc::not_a_directory);
+    EXPECT_EQ(files.replace(folder.filePath(u"missing/file"_s), {"new"}), std::errc::no_such_file_or_directory);
     EXPECT_EQ(contentOf(path), "old");
     EXPECT_EQ(everything(), QStringList{u"records.json"_s});
 
     ASSERT_TRUE(files.createFolder(folder.filePath(u"taken"_s)));
-    EXPECT_FALSE(files.replace(folder.filePath(u"taken"_s), {"new"})) << "a folder has the name";
+    EXPECT_EQ(files.replace(folder.filePath(u"taken"_s), {"new"}), std::errc::is_a_directory);
     EXPECT_EQ(everything(), (QStringList{u"records.json"_s, u"taken"_s}));
 }
 
@@ -107,7 +112,7 @@ TEST_F(XdgFilesTest, FileIsOneOfTheContentsWhenTheProgramIsKilledDuringASave)
         }
         const qsizetype reached = SaverContent::shorter * round / 12 + 1;
         struct stat status {};
-        const auto temporary = QFile::encodeName(path + u".new"_s);
+        const auto temporary = QFile::encodeName(path + u".new-%1"_s.arg(saver.pid()));
         QDeadlineTimer deadline(std::chrono::seconds(20));
         while (::stat(temporary.constData(), &status) != 0 || status.st_size < reached) {
             ASSERT_FALSE(deadline.hasExpired()) << "no save under way";
@@ -117,9 +122,59 @@ TEST_F(XdgFilesTest, FileIsOneOfTheContentsWhenTheProgramIsKilledDuringASave)
         const auto content = contentOf(path);
         ASSERT_TRUE(content == first || content == second) << content.size() << " bytes, round " << round;
     }
-    EXPECT_TRUE(files.replace(path, {"next"}));
+    put(path + u".new-1"_s, "of a process that lives");
+    EXPECT_FALSE(files.replace(path, {"next"}));
     EXPECT_EQ(contentOf(path), "next");
+    ASSERT_TRUE(QFile::remove(path + u".new-1"_s));
     EXPECT_EQ(everything(), QStringList{u"records.json"_s});
+}
+
+TEST_F(XdgFilesTest, ALinkStaysALinkToTheFileThatIsReplaced)
+{
+    ASSERT_TRUE(files.createFolder(folder.filePath(u"synchronised"_s)));
+    const QString target = folder.filePath(u"synchronised/records.json"_s);
+    ASSERT_TRUE(QFile::link(target, path));
+    for (const char *const content : {"into nothing", "over the file"}) {
+        EXPECT_FALSE(files.replace(path, {content}));
+        EXPECT_EQ(QFileInfo(path).symLinkTarget(), target);
+        EXPECT_EQ(contentOf(target), content);
+    }
+}
+
+TEST_F(XdgFilesTest, AnotherProcessIsWaitedForButNotForEver)
+{
+    ChildProcess holder(u"flock"_s, {folder.path(), u"sh"_s, u"-c"_s, u"echo held; read line"_s});
+    ASSERT_EQ(holder.readLine(), u"held"_s);
+    XdgFiles impatient(100ms);
+    QElapsedTimer time;
+    time.start();
+    EXPECT_TRUE(impatient.lock(folder.path()));
+    EXPECT_GE(time.elapsed(), 100);
+    holder.process().write("\n");
+    holder.process().waitForBytesWritten();
+    const auto lock = files.lock(folder.path());
+    EXPECT_EQ(holder.wait(), 0);
+    ChildProcess refused(u"flock"_s, {u"-n"_s, folder.path(), u"true"_s});
+    EXPECT_EQ(refused.wait(), 1);
+}
+
+TEST_F(XdgFilesTest, EveryChangeOfTheFileIsHeardOf)
+{
+    int heard = 0;
+    const auto watch = files.watch(path, [&] { ++heard; });
+    QByteArray stamp = files.stamp(path);
+    EXPECT_EQ(stamp, QByteArray());
+    const std::function<void()> changes[] = {
+        [&] { put(path, "made"); },     [&] { files.replace(path, {"same"}); }, [&] { files.replace(path, {"size"}); },
+        [&] { put(path, "in place"); }, [&] { QFile::remove(path); },           [&] { put(path, "again"); },
+    };
+    for (const auto &change : changes) {
+        SCOPED_TRACE(&change - changes);
+        change();
+        const int before = heard;
+        EXPECT_NE(std::exchange(stamp, files.stamp(path)), files.stamp(path));
+        EXPECT_TRUE(await([&] { return heard > before; }));
+    }
 }
 
 TEST_F(XdgFilesTest, TemporaryFolderIsTheUsersChoiceElseTheSessionsElseTheSystems)
