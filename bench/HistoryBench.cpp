@@ -3,6 +3,7 @@
 #include "platform/freedesktop/SystemClock.h"
 #include "platform/freedesktop/XdgFiles.h"
 #include "store/TranscriptionStore.h"
+#include "store/newIdentifier.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -75,7 +76,7 @@ void measure()
     const QTemporaryDir folder(QDir::currentPath() + u"/bench-XXXXXX"_s); // where builds are: on a disk
     qputenv("XDG_DATA_HOME", folder.path().toLocal8Bit());
     XdgFiles files;
-    const SystemClock clock;
+    SystemClock clock;
     const QString path = folder.path() + u"/Quillo/transcriptions.json"_s;
     files.createFolder(folder.path() + u"/Quillo"_s);
     writeHistory(path);

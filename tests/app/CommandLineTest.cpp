@@ -17,6 +17,7 @@ QString described(const QString &words)
         QString operator()(const CommandLine::Status &status) const { return status.asJson ? u"json"_s : u"status"_s; }
         QString operator()(const CommandLine::Transcribe &command) const { return u"transcribe "_s + command.path; }
         QString operator()(const CommandLine::Doctor &) const { return u"doctor"_s; }
+        QString operator()(const CommandLine::RecoverHistory &command) const { return u"recover "_s + command.path; }
         QString operator()(const CommandLine::Mistake &mistake) const { return u"! "_s + mistake.text; }
     };
     return std::visit(Describe(), CommandLine::parse(words.split(u' ', Qt::SkipEmptyParts), u"1.2"_s));
@@ -42,6 +43,9 @@ TEST(CommandLineTest, UnderstandsEachCommandAndNamesEachMistake)
         {u"transcribe -- -odd.wav"_s, u"transcribe -odd.wav"_s},
         {u"transcribe"_s, u"! transcribe takes one file."_s},
         {u"transcribe a b"_s, u"! transcribe takes one file."_s},
+        {u"history"_s, u"act history"_s},
+        {u"history --recover a.json"_s, u"recover a.json"_s},
+        {u"--recover a.json doctor"_s, u"! --recover belongs to the command history."_s},
         {u"press twice"_s, u"! press takes no argument."_s},
         {u"--json press"_s, u"! --json belongs to the command status."_s},
         {u"Press"_s, u"! There is no command \"Press\"."_s},

@@ -31,6 +31,7 @@ constexpr std::array commands{
     CommandInfo{u"status", u"[--json]", u"Print what the program is doing"},
     CommandInfo{u"quit", u"", u"End the program", true},
     CommandInfo{u"transcribe", u"FILE", u"Print the text of a recording; - reads standard input"},
+    CommandInfo{u"history", u"--recover FILE", u"Take over what can be read in a damaged history"},
     CommandInfo{u"doctor", u"", u"Print what this desktop offers for dictation, and what is missing"},
 };
 
@@ -42,7 +43,7 @@ QString help()
                    "Commands:\n"_s;
     for (const CommandInfo &command : commands) {
         const QString usage = u"%1 %2"_s.arg(command.name, command.argument);
-        text += u"  %1  %2\n"_s.arg(usage, -16).arg(command.help);
+        text += u"  %1  %2\n"_s.arg(usage, -22).arg(command.help);
     }
     text += u"\nOptions:\n"
             "  -h, --help        Print this\n"
@@ -59,7 +60,8 @@ CommandLine::Request CommandLine::parse(const QStringList &words, const QString 
     const QCommandLineOption helpOption(QStringList{u"h"_s, u"help"_s});
     const QCommandLineOption versionOption(QStringList{u"v"_s, u"version"_s});
     const QCommandLineOption jsonOption(u"json"_s);
-    parser.addOptions({helpOption, versionOption, jsonOption});
+    const QCommandLineOption recoverOption(u"recover"_s, QString(), u"file"_s);
+    parser.addOptions({helpOption, versionOption, jsonOption, recoverOption});
     if (!parser.parse(QStringList{u"quillo"_s} + words)) {
         return Mistake{parser.errorText()};
     }
@@ -75,6 +77,9 @@ CommandLine::Request CommandLine::parse(const QStringList &words, const QString 
     if (parser.isSet(jsonOption) && name != u"status") {
         return Mistake{u"--json belongs to the command status."_s};
     }
+    if (parser.isSet(recoverOption) && name != u"history") {
+        return Mistake{u"--recover belongs to the command history."_s};
+    }
     if (given.isEmpty()) {
         return Start{};
     }
@@ -88,6 +93,9 @@ CommandLine::Request CommandLine::parse(const QStringList &words, const QString 
     }
     if (takesFile) {
         return Transcribe{given.at(1)};
+    }
+    if (parser.isSet(recoverOption)) {
+        return RecoverHistory{parser.value(recoverOption)};
     }
     if (name == u"status") {
         return Status{parser.isSet(jsonOption)};

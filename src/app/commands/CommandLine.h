@@ -34,12 +34,16 @@ struct Transcribe {
     QString path;
 };
 struct Doctor {};
+/// Takes over what can be read in the damaged history at `path`.
+struct RecoverHistory {
+    QString path;
+};
 /// Can't be understood; one sentence.
 struct Mistake {
     QString text;
 };
 
-using Request = std::variant<Start, Print, Act, Status, Transcribe, Doctor, Mistake>;
+using Request = std::variant<Start, Print, Act, Status, Transcribe, Doctor, RecoverHistory, Mistake>;
 
 /// `words` without the program's name.
 Request parse(const QStringList &words, const QString &version);

@@ -18,6 +18,8 @@
 #include "platform/x11/windows/TerminalClasses.h"
 #include "service/HttpTransport.h"
 #include "shortcuts/CarbonHotKey.h"
+#include "store/GroupStore.h"
+#include "store/TranscriptionStore.h"
 #include "ui/style/Paper.h"
 
 #include <QCoreApplication>
@@ -197,7 +199,10 @@ QCoro::Task<void> examine(Services &services, QString recording)
     const AudioSettings settings = AudioRecorder::settings();
     const QList<Finding> sound = co_await examineSound(services.clock, recording, settings);
     tell(sound);
-    tell({examineSecretService(), services.preferences.examine(), consentFinding(services.consent)});
+    tell({examineSecretService(), services.preferences.examine(),
+          TranscriptionStore(services.files, services.clock).examine(),
+          GroupStore(services.files, services.preferences, services.clock).examine(),
+          consentFinding(services.consent)});
     const Finding backend = co_await backendFinding(services);
     tell({backend, fontFinding()});
     Output::print(isFit ? u"\nDictation can work here.\n"_s : u"\nDictation can't work here yet.\n"_s);

@@ -5,6 +5,7 @@
 #include "app/commands/CommandLine.h"
 #include "app/commands/DoctorCommand.h"
 #include "app/commands/Output.h"
+#include "app/commands/RecoverHistoryCommand.h"
 #include "app/commands/RunningInstance.h"
 #include "app/commands/StatusCommand.h"
 #include "app/commands/TranscribeCommand.h"
@@ -124,6 +125,10 @@ int QuilloApp::run(int argc, char *argv[])
                               return TranscribeCommand::run(transcribe.path);
                           },
                           [&](const CommandLine::Doctor &) { return doctor(own); },
+                          [&](const CommandLine::RecoverHistory &recover) {
+                              const QCoreApplication application(own.count, own.values);
+                              return RecoverHistoryCommand::run(recover.path);
+                          },
                           [&](const CommandLine::Mistake &mistake) {
                               return Output::fail(mistake.text + u" See: quillo --help"_s, ExitStatus::usage);
                           },
