@@ -3,6 +3,8 @@
 
 #include "api/CheckoutEndpoints.h"
 #include "api/DeviceEndpoints.h"
+#include "api/Limits.h"
+#include "api/MonitoringEndpoints.h"
 #include "api/TranscribeEndpoint.h"
 
 struct ApiOptions {
@@ -10,6 +12,7 @@ struct ApiOptions {
     CheckoutOptions checkout = {};
     int registrationsPerHour = 60;                 ///< of one address; 0 is no limit
     std::chrono::milliseconds databaseCheck{3000}; ///< after which the database counts as failed
+    bool isMonitoredApart = false;                 ///< the metrics are for monitor() alone
 };
 
 /// All endpoints, and what they share.
@@ -19,26 +22,28 @@ public:
     Api(const ApiOptions &options, StoreThreads &store, Transcriber &transcriber, const WallClock &clock);
 
     size_t bodyLimit(std::string_view path) const override { return m_router.bodyLimit(path); }
-    net::awaitable<std::optional<Reply>> admit(const Request &head) override { return m_router.admit(head); }
+    net::awaitable<std::optional<Reply>> admit(Request &head) override { return m_router.admit(head); }
     net::awaitable<Reply> handle(const Request &request) override { return m_router.handle(request); }
 
-    Metrics &metrics() { return m_metrics; }
+    /// Serves nothing but health and metrics, for a listener of their own, which a busy server still answers.
+    RequestHandler &monitor() { return m_monitor; }
 
-    /// Tells the metrics how many connections there are.
-    void countConnections(std::function<size_t()> connections) { m_connections = std::move(connections); }
+    /// Takes over limits, prices of transcripts and Stripe's keys. I/O thread.
+    void reload(const ApiOptions &options);
+
+    Metrics &metrics() { return m_metrics; }
+    void countConnections(std::function<size_t()> connections)
+    {
+        m_monitoring.countConnections(std::move(connections));
+    }
 
 private:
-    net::awaitable<bool> databaseAnswers();
-    net::awaitable<Reply> health(const Request &request);
-    net::awaitable<Reply> showMetrics(const Request &request);
-
-    std::chrono::milliseconds m_databaseCheck;
-    StoreThreads &m_store;
-    Transcriber &m_transcriber;
     Metrics m_metrics;
-    std::function<size_t()> m_connections = [] { return 0; };
+    Limits m_limits;
     DeviceEndpoints m_devices;
     TranscribeEndpoint m_transcription;
     CheckoutEndpoints m_checkout;
+    MonitoringEndpoints m_monitoring;
     Router m_router;
+    Router m_monitor;
 };

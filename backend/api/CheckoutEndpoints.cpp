@@ -37,7 +37,7 @@ CheckoutEndpoints::CheckoutEndpoints(CheckoutOptions options, StoreThreads &stor
       m_store(store),
       m_clock(std::move(clock)),
       m_authenticator(store),
-      m_stripe(m_options.stripe)
+      m_stripe(std::make_shared<StripeClient>(m_options.stripe))
 {
 }
 
@@ -55,6 +55,12 @@ void CheckoutEndpoints::addTo(Router &router)
         router.add(
             "POST", "/webhooks/stripe", [this](const Request &request) { return receiveEvent(request); }, largestEvent);
     }
+}
+
+void CheckoutEndpoints::reload(const StripeOptions &stripe)
+{
+    m_options.stripe = stripe;
+    m_stripe = std::make_shared<StripeClient>(stripe);
 }
 
 net::awaitable<Reply> CheckoutEndpoints::createLink(const Request &request)
@@ -104,7 +110,8 @@ net::awaitable<Reply> CheckoutEndpoints::pay(QByteArray token, Purchase purchase
                                     m_options.publicUrl + std::string(cancelledPath)};
     std::string page;
     try {
-        page = co_await runOn(m_payments, [&] { return m_stripe.createSession(order); });
+        const auto stripe = m_stripe; // which may be replaced meanwhile
+        page = co_await runOn(m_payments, [&] { return stripe->createSession(order); });
     } catch (const PaymentError &error) {
         logLine(error.what());
     }

@@ -28,6 +28,9 @@ public:
 
     void addTo(Router &router);
 
+    /// Takes over Stripe's keys. I/O thread.
+    void reload(const StripeOptions &stripe);
+
 private:
     net::awaitable<Reply> createLink(const Request &request);
     net::awaitable<Reply> showPacks(const Request &request);
@@ -40,6 +43,6 @@ private:
     StoreThreads &m_store;
     WallClock m_clock;
     Authenticator m_authenticator;
-    StripeClient m_stripe;
+    std::shared_ptr<const StripeClient> m_stripe; ///< kept by who uses it on another thread
     net::thread_pool m_payments{2};
 };

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "api/DeviceEndpoints.h"
 
+#include "http/Network.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -14,10 +14,8 @@ constexpr qsizetype longestPlatform = 32;
 
 } // namespace
 
-DeviceEndpoints::DeviceEndpoints(StoreThreads &store, int registrationsPerHour)
-    : m_store(store),
-      m_authenticator(store),
-      m_registrations(registrationsPerHour, std::chrono::seconds(3600 / std::max(registrationsPerHour, 1)))
+DeviceEndpoints::DeviceEndpoints(StoreThreads &store, Limits &limits, int registrationsPerHour)
+    : m_store(store), m_authenticator(store), m_limits(limits), m_registrationsPerHour(registrationsPerHour)
 {
 }
 
@@ -34,17 +32,25 @@ net::awaitable<Reply> DeviceEndpoints::registerDevice(const Request &request)
     if (platform.isEmpty() || platform.size() > longestPlatform || platform.contains(QChar::Null)) {
         throw Refusal::badRequest();
     }
-    if (const auto delay = m_registrations.take(request.address, RateLimiter::Clock::now())) {
-        throw Refusal::tooManyRegistrations().retryAfter(*delay);
+    if (m_registrationsPerHour > 0) {
+        constexpr Limits::Time hour = std::chrono::hours(1);
+        const auto owner = "registration " + customerOf(request.address);
+        if (const auto delay = co_await m_limits.take(owner, hour / m_registrationsPerHour, hour)) {
+            throw Refusal::tooManyRegistrations().retryAfter(std::chrono::ceil<std::chrono::seconds>(*delay));
+        }
     }
     const auto device = co_await m_store.run([&](Store &store) { return store.devices.add(platform); });
-    co_return jsonReply({{u"deviceId"_s, device.deviceId},
-                         {u"secret"_s, device.secret},
-                         {u"freeGrantMissed"_s, device.freeGrantMissed}});
+    auto reply = jsonReply({{u"deviceId"_s, device.deviceId},
+                            {u"secret"_s, device.secret},
+                            {u"freeGrantMissed"_s, device.freeGrantMissed}});
+    reply.log = {{u"device"_s, device.deviceId}};
+    co_return reply;
 }
 
 net::awaitable<Reply> DeviceEndpoints::balance(const Request &request) const
 {
     const auto device = co_await m_authenticator.authenticate(request);
-    co_return jsonReply({{u"balance"_s, device.balance}, {u"unmetered"_s, device.unmetered}});
+    auto reply = jsonReply({{u"balance"_s, device.balance}, {u"unmetered"_s, device.unmetered}});
+    reply.log = {{u"device"_s, device.id}};
+    co_return reply;
 }

@@ -2,16 +2,19 @@
 #pragma once
 
 #include "api/Authenticator.h"
-#include "http/RateLimiter.h"
+#include "api/Limits.h"
 #include "http/Router.h"
 
 /// Registration and balance.
 class DeviceEndpoints {
 public:
-    /// `store` must outlive it. `registrationsPerHour` are those of one address; 0 is no limit.
-    DeviceEndpoints(StoreThreads &store, int registrationsPerHour);
+    /// Both must outlive it. `registrationsPerHour` are those of one customer's addresses; 0 is no limit.
+    DeviceEndpoints(StoreThreads &store, Limits &limits, int registrationsPerHour);
 
     void addTo(Router &router);
+
+    /// I/O thread.
+    void reload(int registrationsPerHour) { m_registrationsPerHour = registrationsPerHour; }
 
 private:
     net::awaitable<Reply> registerDevice(const Request &request);
@@ -19,5 +22,6 @@ private:
 
     StoreThreads &m_store;
     Authenticator m_authenticator;
-    RateLimiter m_registrations;
+    Limits &m_limits;
+    int m_registrationsPerHour;
 };

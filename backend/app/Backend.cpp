@@ -37,6 +37,16 @@ net::ip::tcp::acceptor passedSocket(net::io_context &io)
     throw std::runtime_error("the socket that systemd passed is not a listening TCP socket");
 }
 
+net::ip::tcp::acceptor bound(net::io_context &io, const net::ip::tcp::endpoint &endpoint)
+{
+    try {
+        return {io, endpoint};
+    } catch (const boost::system::system_error &error) {
+        throw std::runtime_error("can't listen on port " + std::to_string(endpoint.port()) + " of " +
+                                 endpoint.address().to_string() + ": " + error.code().message());
+    }
+}
+
 net::ip::tcp::acceptor listen(net::io_context &io, const net::ip::tcp::endpoint &endpoint)
 {
     constexpr int unsetEnvironment = 1;
@@ -45,12 +55,7 @@ net::ip::tcp::acceptor listen(net::io_context &io, const net::ip::tcp::endpoint 
     } else if (count > 1) {
         throw std::runtime_error("systemd passed more than one socket");
     }
-    try {
-        return {io, endpoint};
-    } catch (const boost::system::system_error &error) {
-        throw std::runtime_error("can't listen on port " + std::to_string(endpoint.port()) + " of " +
-                                 endpoint.address().to_string() + ": " + error.code().message());
-    }
+    return bound(io, endpoint);
 }
 
 std::string urlOf(const net::ip::tcp::endpoint &endpoint)
@@ -78,9 +83,9 @@ ApiOptions reachedAt(const net::ip::tcp::endpoint &endpoint, ApiOptions options)
     return options;
 }
 
-Server::AccessLog accessLog(Metrics &metrics, bool written)
+Server::AccessLog accessLog(Metrics &metrics, const bool &written)
 {
-    return [&metrics, written](const AccessRecord &record) {
+    return [&metrics, &written](const AccessRecord &record) {
         metrics.answered(record);
         if (written) {
             writeLine(accessLine(record));
@@ -102,15 +107,27 @@ void allowManyConnections()
 
 Backend::Backend(const Settings &settings, std::unique_ptr<Engine> engine)
     : m_signals(m_io, SIGTERM, SIGINT),
+      m_hangups(m_io, SIGHUP),
+      m_again(settings.again),
+      m_engine(settings.engine),
+      m_accessLog(settings.accessLog),
       m_store(withFolder(settings.database), settings.grants, systemClock()),
       m_transcriber(std::move(engine), longestRecording, settings.engineQueue),
       m_acceptor(listen(m_io, settings.endpoint)),
       m_url(urlOf(m_acceptor.local_endpoint())),
       m_api(reachedAt(m_acceptor.local_endpoint(), settings.api), m_store, m_transcriber, systemClock()),
-      m_server(std::move(m_acceptor), m_api, settings.server, accessLog(m_api.metrics(), settings.accessLog))
+      m_server(std::move(m_acceptor), m_api, settings.server, accessLog(m_api.metrics(), m_accessLog))
 {
+    // What is written to a log that nobody reads any more, or to a full disk, fails and does not kill.
+    for (const auto signal : {SIGPIPE, SIGXFSZ}) {
+        std::signal(signal, SIG_IGN);
+    }
     allowManyConnections();
     m_api.countConnections([this] { return m_server.connections(); });
+    if (settings.monitor) {
+        m_monitor.emplace(bound(m_io, *settings.monitor), m_api.monitor(), ServerOptions{.connectionsPerAddress = 0},
+                          [](const AccessRecord &) {});
+    }
 }
 
 bool Backend::run()
@@ -118,16 +135,50 @@ bool Backend::run()
     m_signals.async_wait([this](const boost::system::error_code &error, int) {
         if (!error) {
             m_signals.clear();
+            m_hangups.cancel(); // which goes on being caught
             sd_notify(0, "STOPPING=1");
             m_transcriber.stop();
+            if (m_monitor) {
+                m_monitor->stop();
+            }
             m_server.stop([this] {
                 m_gaveUp = true;
                 m_io.stop();
             });
         }
     });
+    awaitReload();
     m_server.start();
+    if (m_monitor) {
+        m_monitor->start();
+    }
     sd_notify(0, "READY=1");
     m_io.run();
     return !m_gaveUp;
+}
+
+void Backend::awaitReload()
+{
+    m_hangups.async_wait([this](const boost::system::error_code &error, int) {
+        if (!error) {
+            reload();
+            awaitReload();
+        }
+    });
+}
+
+/// With wrong settings, everything stays as it is.
+void Backend::reload()
+{
+    try {
+        const auto settings = m_again();
+        if (settings.engine == m_engine && settings.engine != Settings::EngineKind::PocketSphinx) {
+            m_transcriber.replaceEngine(makeEngine(settings));
+        }
+        m_api.reload(settings.api);
+        m_accessLog = settings.accessLog;
+        logLine("the settings were read anew");
+    } catch (const std::exception &error) {
+        logLine(std::string("the settings stay as they were: ") + error.what());
+    }
 }

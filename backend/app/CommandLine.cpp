@@ -134,7 +134,9 @@ int run(const QStringList &arguments)
     }
     for (const auto &command : commands()) {
         if (const auto found = match(command, words)) {
-            command.run(command.settings(Options(parser)), *found);
+            auto settings = command.settings(Options(parser));
+            settings.again = [&] { return command.settings(Options(parser)); };
+            command.run(settings, *found);
             return 0;
         }
     }

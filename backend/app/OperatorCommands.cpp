@@ -25,9 +25,19 @@ Store openStore(const Settings &settings)
     return {settings.database, settings.grants, systemClock()};
 }
 
+/// A device may call its platform anything; to a terminal, control characters are commands.
+QString escaped(const QString &text)
+{
+    QString escaped;
+    for (const auto c : text) {
+        escaped += c.isPrint() ? QString(c) : u"\\u%1"_s.arg(c.unicode(), 4, 16, QLatin1Char('0'));
+    }
+    return escaped;
+}
+
 void print(const QString &line)
 {
-    std::cout << line.toStdString() << '\n';
+    std::cout << escaped(line).toStdString() << '\n';
 }
 
 QString timeText(qint64 seconds)
@@ -97,7 +107,7 @@ void grantTokens(const Settings &settings, const QStringList &words)
     }
     Transaction transaction(store.database);
     if (!store.ledger.credit(words[0], tokens, u"operator"_s)) {
-        throw StoreError("the device has fewer tokens than that");
+        throw StoreError("the device would have fewer tokens than none, or more than there can be");
     }
     transaction.commit();
     print(store, words[0]);
@@ -155,7 +165,7 @@ void testEngine(const Settings &settings, const QStringList &words)
     const auto bytes = file.readAll().toStdString();
     SpeechGate gate;
     const auto count =
-        decodeAudio(bytes, longestRecording, [&](std::span<const int16_t> samples) { gate.add(samples); });
+        decodeAudio(bytes, {longestRecording}, [&](std::span<const int16_t> samples) { gate.add(samples); });
     const auto seconds = static_cast<double>(count) / speechRate;
     if (!gate.mayHoldSpeech()) {
         std::cerr << seconds << " s of silence or noise, which the engine is not given\n";

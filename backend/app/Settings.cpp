@@ -40,6 +40,18 @@ net::ip::address addressOf(const Options &options, const QString &name, const QS
     return address;
 }
 
+/// An address and a port, such as "[::1]:8792".
+net::ip::tcp::endpoint endpointOf(const Options &options, const QString &name)
+{
+    const QUrl url(u"tcp://"_s + options[name], QUrl::StrictMode);
+    boost::system::error_code error;
+    const auto address = net::ip::make_address(url.host().toStdString(), error);
+    if (error || url.port() < 0 || !url.path().isEmpty()) {
+        options.fail(name, u"must be an IP address and a port, such as 127.0.0.1:8792"_s);
+    }
+    return {address, static_cast<uint16_t>(url.port())};
+}
+
 QString database(const Options &options)
 {
     const auto location = options[u"database"_s];
@@ -153,7 +165,18 @@ Settings settingsOf(const Options &options)
     settings.endpoint = {addressOf(options, u"address"_s, options[u"address"_s]),
                          static_cast<uint16_t>(options.number(u"port"_s, 0, 65535))};
     for (const auto &proxy : options.list(u"trusted-proxies"_s)) {
-        settings.server.trustedProxies.push_back(addressOf(options, u"trusted-proxies"_s, proxy));
+        const auto network = Network::parse(proxy.toStdString());
+        if (!network) {
+            options.fail(u"trusted-proxies"_s, u"must be IP addresses, or blocks of them such as 10.0.0.0/8"_s);
+        }
+        settings.server.trustedProxies.push_back(*network);
+    }
+    settings.server.connections = static_cast<size_t>(options.number(u"connections"_s, 1, 1'000'000));
+    settings.server.connectionsPerAddress =
+        static_cast<int>(options.number(u"connections-per-address"_s, 0, 1'000'000));
+    if (!options[u"monitor"_s].isEmpty()) {
+        settings.monitor = endpointOf(options, u"monitor"_s);
+        settings.api.isMonitoredApart = true;
     }
     settings.server.drain = std::chrono::seconds(options.number(u"stop-timeout"_s, 0, 3600));
     settings.accessLog = choice<bool>(options, u"access-log"_s, {{u"none"_s, false}, {u"json"_s, true}});
@@ -168,6 +191,10 @@ Settings settingsOf(const Options &options)
         settings.openAi = openAi(options);
     }
     settings.api.transcription.tokensPerSecond = options.number(u"tokens-per-second"_s, 0, 1'000'000);
+    settings.api.transcription.atOncePerDevice =
+        static_cast<int>(options.number(u"transcriptions-per-device"_s, 0, 100'000));
+    settings.api.transcription.decodingPerDevice =
+        std::chrono::seconds(options.number(u"decoding-per-device"_s, 1, 86'400));
     settings.api.registrationsPerHour = static_cast<int>(options.number(u"registrations-per-hour"_s, 0, 3600));
     settings.api.checkout = checkout(options);
     return settings;

@@ -20,7 +20,9 @@ struct Settings {
     GrantPolicy grants;
     ApiOptions api; ///< with an empty public address for the one that the server listens on
     ServerOptions server;
+    std::optional<net::ip::tcp::endpoint> monitor; ///< where health and metrics are told apart from the rest
     bool accessLog = false;
+    std::function<Settings()> again; ///< reads them anew; throws SettingsError
 };
 
 /// Reads the files that the options name. Throws SettingsError.

@@ -19,6 +19,8 @@ namespace {
 // index of the longest recording takes 1.4 MB, and no packet comes near it.
 constexpr size_t largestBlock = 16UL * 1024 * 1024;
 constexpr int mostTracks = 4;
+// An AAC packet holds at least 480 samples of each channel, of which there are at most 96,000 a second.
+constexpr int64_t packetsPerSecond = 200;
 
 template <auto Free> struct Deleter {
     template <class T> void operator()(T *object) const { Free(&object); }
@@ -37,14 +39,54 @@ using Packet = std::unique_ptr<AVPacket, Deleter<av_packet_free>>;
 using Frame = std::unique_ptr<AVFrame, Deleter<av_frame_free>>;
 using Converter = std::unique_ptr<SwrContext, Deleter<swr_free>>;
 
+/// Counts what a file takes against what a recording can: a table of some megabytes may send a decoder through the same
+/// bytes for hours.
+class Budget {
+public:
+    Budget(size_t bytes, const DecodingLimits &limits)
+        : m_bytes(static_cast<int64_t>(bytes)),
+          m_packets((limits.longest.count() + 1) * packetsPerSecond),
+          m_end(std::chrono::steady_clock::now() + limits.time),
+          m_wanted(limits.wanted)
+    {
+    }
+
+    void spend(const AVPacket &packet)
+    {
+        m_bytes -= packet.size;
+        if (m_bytes < 0 || --m_packets < 0) {
+            throw AudioError(AudioError::Kind::TooCostly, "the file names its bytes more than once");
+        }
+    }
+
+    bool isOver() const { return std::chrono::steady_clock::now() >= m_end || !m_wanted(); }
+
+    void check() const
+    {
+        if (isOver()) {
+            throw AudioError(AudioError::Kind::Stopped, "not decoded in time, or for nobody");
+        }
+    }
+
+private:
+    int64_t m_bytes;
+    int64_t m_packets;
+    std::chrono::steady_clock::time_point m_end;
+    const std::function<bool()> &m_wanted;
+};
+
 struct MemoryFile {
     std::string_view data;
+    const Budget &budget;
     int64_t position = 0;
 };
 
 int readMemory(void *opaque, uint8_t *target, int size)
 {
     auto &file = *static_cast<MemoryFile *>(opaque);
+    if (file.budget.isOver()) { // libav may read on for long before it returns
+        return AVERROR_EXIT;
+    }
     const auto left = static_cast<int64_t>(file.data.size()) - file.position;
     const auto count = static_cast<int>(std::min<int64_t>(left, size));
     if (count <= 0) {
@@ -197,12 +239,13 @@ void decodePacket(AVCodecContext &codec, const AVPacket *packet, AVFrame &frame,
 
 } // namespace
 
-size_t decodeAudio(std::string_view file, std::chrono::seconds longest, const SampleSink &sink)
+size_t decodeAudio(std::string_view file, const DecodingLimits &limits, const SampleSink &sink)
 {
     av_log_set_level(AV_LOG_QUIET);
     av_max_alloc(largestBlock);
     constexpr int bufferSize = 32 * 1024;
-    MemoryFile memory{file};
+    Budget budget(file.size(), limits);
+    MemoryFile memory{file, budget};
     const Input input(avio_alloc_context(static_cast<uint8_t *>(av_malloc(bufferSize)), bufferSize, 0, &memory,
                                          readMemory, nullptr, seekMemory));
     const Packet packet(av_packet_alloc());
@@ -216,13 +259,16 @@ size_t decodeAudio(std::string_view file, std::chrono::seconds longest, const Sa
         unsupported("no audio track");
     }
     const auto codec = openCodec(*format->streams[stream]);
-    Resampler resampler(static_cast<size_t>(longest.count()) * speechRate, sink);
+    Resampler resampler(static_cast<size_t>(limits.longest.count()) * speechRate, sink);
     while (av_read_frame(format.get(), packet.get()) >= 0) {
+        budget.spend(*packet);
+        budget.check();
         if (packet->stream_index == stream) {
             decodePacket(*codec, packet.get(), *frame, resampler);
         }
         av_packet_unref(packet.get());
     }
+    budget.check();
     decodePacket(*codec, nullptr, *frame, resampler);
     resampler.flush();
     if (resampler.count() == 0) {
@@ -231,10 +277,10 @@ size_t decodeAudio(std::string_view file, std::chrono::seconds longest, const Sa
     return resampler.count();
 }
 
-Samples decodeAudio(std::string_view file, std::chrono::seconds longest)
+Samples decodeAudio(std::string_view file, const DecodingLimits &limits)
 {
     Samples samples;
-    decodeAudio(file, longest,
+    decodeAudio(file, limits,
                 [&](std::span<const int16_t> piece) { samples.insert(samples.end(), piece.begin(), piece.end()); });
     return samples;
 }

@@ -13,6 +13,9 @@
 struct Recording {
     std::string_view file;        ///< the MPEG-4 file as it was uploaded
     std::chrono::seconds longest; ///< at least its duration
+    /// What an engine that knows nothing to do with them ignores. Either may be empty.
+    std::string language = {}; ///< spoken in it, BCP 47, such as "de"
+    std::string prompt = {};   ///< spellings and style to follow
 };
 
 /// The engine can't transcribe now. The text is for the operator; it holds no secret and nothing that was said.

@@ -45,18 +45,17 @@ void addField(curl_mime *form, const char *name, const std::string &value)
     }
 }
 
-CurlForm makeForm(CURL *transfer, Cursor &recording, const OpenAiOptions &options)
+CurlForm makeForm(CURL *transfer, Cursor &file, const Recording &recording, const OpenAiOptions &options)
 {
     CurlForm form(curl_mime_init(transfer));
-    auto *file = curl_mime_addpart(form.get());
-    curl_mime_name(file, "file");
-    curl_mime_filename(file, "recording.m4a");
-    curl_mime_type(file, "audio/mp4");
-    curl_mime_data_cb(file, static_cast<curl_off_t>(recording.data.size()), Cursor::read, Cursor::seek, nullptr,
-                      &recording);
+    auto *part = curl_mime_addpart(form.get());
+    curl_mime_name(part, "file");
+    curl_mime_filename(part, "recording.m4a");
+    curl_mime_type(part, "audio/mp4");
+    curl_mime_data_cb(part, static_cast<curl_off_t>(file.data.size()), Cursor::read, Cursor::seek, nullptr, &file);
     addField(form.get(), "model", options.model);
-    addField(form.get(), "language", options.language);
-    addField(form.get(), "prompt", options.prompt);
+    addField(form.get(), "language", recording.language.empty() ? options.language : recording.language);
+    addField(form.get(), "prompt", recording.prompt.empty() ? options.prompt : recording.prompt);
     addField(form.get(), "response_format", "json");
     return form;
 }
@@ -132,7 +131,7 @@ OpenAiEngine::Answer OpenAiEngine::ask(const Recording &recording, Deadline dead
     const auto transfer = newCurlTransfer(url, answer.body);
     auto *curl = transfer.get();
     Cursor cursor{recording.file};
-    const auto form = makeForm(curl, cursor, m_options);
+    const auto form = makeForm(curl, cursor, recording, m_options);
     CurlHeaders headers;
     if (!m_options.key.empty()) {
         headers.reset(curl_slist_append(nullptr, ("Authorization: Bearer " + m_options.key).c_str()));

@@ -53,7 +53,7 @@ QString PocketSphinxEngine::transcribe(const Recording &recording)
     }
     constexpr int searchNow = FALSE;
     constexpr int wholeUtterance = TRUE;
-    const auto samples = decodeAudio(recording.file, recording.longest);
+    const auto samples = decodeAudio(recording.file, {recording.longest});
     if (ps_start_utt(m_decoder.get()) < 0) {
         throw EngineError("PocketSphinx did not start");
     }

@@ -4,23 +4,38 @@
 #include "audio/SpeechGate.h"
 #include "support/Log.h"
 
+#include <QScopeGuard>
 #include <boost/asio/post.hpp>
-#include <boost/asio/redirect_error.hpp>
-#include <boost/asio/this_coro.hpp>
 
+#include <ctime>
 #include <utility>
+
+namespace {
+
+constexpr int decoders = 2;
+
+/// Of the calling thread. It does not count what others did meanwhile.
+std::chrono::nanoseconds processorTime()
+{
+    timespec time{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
+} // namespace
 
 Transcriber::Transcriber(std::unique_ptr<Engine> engine, std::chrono::seconds longest, int places)
     : m_engine(std::move(engine)),
       m_longest(longest),
       m_places(places),
-      m_free(m_engine->concurrency()),
-      m_decoding(2),
+      m_decodingTurns(decoders),
+      m_transcribingTurns(m_engine->concurrency()),
+      m_decoding(decoders),
       m_transcribing(static_cast<size_t>(m_engine->concurrency()))
 {
-    net::post(m_transcribing, [this] {
+    net::post(m_transcribing, [this, prepared = m_engine] {
         try {
-            m_engine->prepare();
+            prepared->prepare();
             m_state = State::Ready;
         } catch (const EngineError &error) {
             m_state = State::Failed;
@@ -38,63 +53,51 @@ Transcriber::Place Transcriber::enter()
     return {this, [this](void *) { --m_taken; }};
 }
 
-net::awaitable<Inspection> Transcriber::inspect(std::string_view file)
+net::awaitable<std::optional<Inspection>> Transcriber::inspect(Job &job)
 {
-    return runOn(m_decoding, [file, longest = m_longest] {
+    const auto turn = co_await awaitTurn(m_decodingTurns, job);
+    if (!turn) {
+        co_return std::nullopt;
+    }
+    co_return co_await runOn(m_decoding, [&job, longest = m_longest]() -> std::optional<Inspection> {
+        const auto started = processorTime();
+        const auto measured = qScopeGuard([&] { job.decoding = processorTime() - started; });
         SpeechGate gate;
-        const auto count = decodeAudio(file, longest, [&](std::span<const int16_t> samples) { gate.add(samples); });
+        const auto count = decodeAudio(job.file, {.longest = longest, .wanted = job.wanted},
+                                       [&](std::span<const int16_t> samples) { gate.add(samples); });
         const auto startedSeconds = (static_cast<qint64>(count) + speechRate - 1) / speechRate;
         return Inspection{startedSeconds, gate.mayHoldSpeech()};
     });
 }
 
-net::awaitable<std::optional<QString>> Transcriber::transcribe(std::string_view file, std::function<bool()> wanted)
+net::awaitable<std::optional<QString>> Transcriber::transcribe(Job &job)
 {
-    if (!co_await awaitTurn()) {
+    const auto turn = co_await awaitTurn(m_transcribingTurns, job);
+    if (!turn) {
         co_return std::nullopt;
     }
-    const Place turn(this, [this](void *) { endTurn(); });
-    co_return co_await runOn(m_transcribing, [this, file, wanted = std::move(wanted)]() -> std::optional<QString> {
-        if (m_stopping || !wanted()) {
+    const auto engine = m_engine; // which may be replaced meanwhile
+    co_return co_await runOn(m_transcribing, [&]() -> std::optional<QString> {
+        if (m_stopping || !job.wanted()) {
             return std::nullopt;
         }
-        return m_engine->transcribe({file, m_longest});
+        const auto started = std::chrono::steady_clock::now();
+        const auto measured = qScopeGuard([&] { job.transcribing = std::chrono::steady_clock::now() - started; });
+        return engine->transcribe({job.file, m_longest, job.language, job.prompt});
     });
+}
+
+/// Waits in the queue and not in the threads' own, out of which nothing could be taken.
+net::awaitable<FairQueue::Turn> Transcriber::awaitTurn(FairQueue &queue, Job &job)
+{
+    const auto started = std::chrono::steady_clock::now();
+    const auto measured = qScopeGuard([&] { job.queued += std::chrono::steady_clock::now() - started; });
+    co_return co_await queue.enter(job.owner);
 }
 
 void Transcriber::stop()
 {
     m_stopping = true;
-    for (auto *waiting : std::exchange(m_waiting, {})) {
-        waiting->turn.cancel();
-    }
-}
-
-/// Waits here and not in the threads' own queue, out of which nothing could be taken.
-net::awaitable<bool> Transcriber::awaitTurn()
-{
-    if (m_stopping) {
-        co_return false;
-    }
-    if (m_free > 0) {
-        --m_free;
-        co_return true;
-    }
-    Waiting waiting{{co_await net::this_coro::executor, net::steady_timer::time_point::max()}};
-    m_waiting.push_back(&waiting);
-    boost::system::error_code cancelled;
-    co_await waiting.turn.async_wait(net::redirect_error(net::use_awaitable, cancelled));
-    co_return waiting.hasTurn;
-}
-
-void Transcriber::endTurn()
-{
-    if (m_waiting.empty()) {
-        ++m_free;
-        return;
-    }
-    auto *next = m_waiting.front();
-    m_waiting.pop_front();
-    next->hasTurn = true;
-    next->turn.cancel();
+    m_decodingTurns.stop();
+    m_transcribingTurns.stop();
 }

@@ -3,15 +3,13 @@
 
 #include "audio/AudioDecoder.h"
 #include "engine/Engine.h"
-#include "support/Asio.h"
-
-#include <boost/asio/steady_timer.hpp>
+#include "engine/FairQueue.h"
 
 #include <atomic>
-#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 /// What is to be known of a recording before the engine runs.
 struct Inspection {
@@ -23,7 +21,20 @@ struct Inspection {
 /// Samples are not kept between the two, so a recording that waits takes no more memory than its file.
 class Transcriber {
 public:
+    using Duration = std::chrono::steady_clock::duration;
     enum class State { Loading, Ready, Failed };
+
+    /// A recording, and for whom it is worked on.
+    struct Job {
+        std::string_view file;        ///< must stay until the coroutine ends
+        std::string owner;            ///< has its turns between those of the others
+        std::function<bool()> wanted; ///< any thread
+        std::string language;         ///< as in Recording, like the next
+        std::string prompt;
+        Duration queued{0};                   ///< how long it has waited for its turns so far
+        std::chrono::nanoseconds decoding{0}; ///< of a processor
+        Duration transcribing{0};
+    };
 
     /// Starts to load the engine; transcriptions wait for that. At most `places` recordings are let in at a time.
     Transcriber(std::unique_ptr<Engine> engine, std::chrono::seconds longest, int places);
@@ -34,13 +45,16 @@ public:
     /// Null when all places are taken, and after stop(). I/O thread.
     Place enter();
 
-    /// `file` must stay until the coroutine ends. Throws AudioError.
-    net::awaitable<Inspection> inspect(std::string_view file);
+    /// Nothing when stop() came first. I/O thread. Throws AudioError; `job` tells what it took all the same.
+    net::awaitable<std::optional<Inspection>> inspect(Job &job);
 
-    /// `file` must stay until the coroutine ends. `wanted` is asked on the engine's thread when the turn has come.
     /// Nothing when the engine was not run: it is not wanted any more, or stop() came first. I/O thread. Throws
     /// EngineError.
-    net::awaitable<std::optional<QString>> transcribe(std::string_view file, std::function<bool()> wanted);
+    net::awaitable<std::optional<QString>> transcribe(Job &job);
+
+    /// For the transcriptions that begin from now on, as many at a time as before. The engine must need no preparation.
+    /// I/O thread.
+    void replaceEngine(std::shared_ptr<Engine> engine) { m_engine = std::move(engine); }
 
     /// Lets nothing more in and nothing that waits to the engine; what it has begun goes on. I/O thread.
     void stop();
@@ -49,19 +63,13 @@ public:
     int placesTaken() const { return m_taken; }
 
 private:
-    struct Waiting {
-        net::steady_timer turn; ///< cancelled when it has come, or never will
-        bool hasTurn = false;
-    };
+    static net::awaitable<FairQueue::Turn> awaitTurn(FairQueue &queue, Job &job);
 
-    net::awaitable<bool> awaitTurn();
-    void endTurn();
-
-    std::unique_ptr<Engine> m_engine;
+    std::shared_ptr<Engine> m_engine;
     std::chrono::seconds m_longest;
     int m_places;
-    int m_free; ///< transcriptions that can begin at once
-    std::deque<Waiting *> m_waiting;
+    FairQueue m_decodingTurns;
+    FairQueue m_transcribingTurns;
     std::atomic<bool> m_stopping = false;
     std::atomic<int> m_taken = 0;
     std::atomic<State> m_state = State::Loading;

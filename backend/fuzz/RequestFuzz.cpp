@@ -44,17 +44,16 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (!feed(parser, input)) {
         return 0;
     }
-    const auto proxy = net::ip::make_address("127.0.0.1");
-    const auto address = clientAddress(parser, proxy, std::span(&proxy, 1));
+    const auto proxy = Network::parse("127.0.0.0/8");
+    const auto address = clientAddress(parser, net::ip::make_address("127.0.0.1"), std::span(&*proxy, 1));
     auto request = headOf(parser, address);
     request.body = std::move(parser.get().body());
     if (request.path.find('?') != std::string::npos || request.body.size() > bodyLimit) {
         std::abort();
     }
-    if (const auto file = uploadedFile(request.contentType, request.body)) {
-        const auto isInside = file->data() >= request.body.data() &&
-                              file->data() + file->size() <= request.body.data() + request.body.size();
-        if (!isInside) {
+    for (const auto &[name, content] : parseForm(request.contentType, request.body).value_or(Form())) {
+        if (content.data() < request.body.data() ||
+            content.data() + content.size() > request.body.data() + request.body.size()) {
             std::abort();
         }
     }

@@ -3,14 +3,13 @@
 
 #include <QDateTime>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 using namespace Qt::StringLiterals;
 
 std::string accessLine(const AccessRecord &record)
 {
     const auto milliseconds = static_cast<double>(record.duration.count()) / 1000;
-    const QJsonObject line{
+    QJsonObject line{
         {u"time"_s, QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs)},
         {u"address"_s, QString::fromStdString(record.address)},
         {u"method"_s, QString::fromStdString(record.method)},
@@ -21,5 +20,8 @@ std::string accessLine(const AccessRecord &record)
         {u"delivered"_s, record.delivered},
         {u"ms"_s, milliseconds},
     };
+    for (auto member = record.more.begin(); member != record.more.end(); ++member) {
+        line.insert(member.key(), member.value());
+    }
     return QJsonDocument(line).toJson(QJsonDocument::Compact).toStdString();
 }

@@ -71,9 +71,10 @@ struct Connection::Exchange {
     AccessRecord record;
 };
 
-Connection::Connection(net::ip::tcp::socket socket, RequestHandler &handler, const ServerOptions &options,
-                       BodyMemory &bodies, const Server::AccessLog &log)
+Connection::Connection(net::ip::tcp::socket socket, net::ip::address peer, RequestHandler &handler,
+                       const ServerOptions &options, BodyMemory &bodies, const Server::AccessLog &log)
     : m_stream(std::move(socket)),
+      m_peer(std::move(peer)),
       m_buffer(readAhead),
       m_handler(handler),
       m_options(options),
@@ -81,7 +82,6 @@ Connection::Connection(net::ip::tcp::socket socket, RequestHandler &handler, con
       m_log(log)
 {
     beast::error_code error;
-    m_peer = unmapped(m_stream.socket().remote_endpoint(error).address());
     m_stream.socket().set_option(net::ip::tcp::no_delay(true), error);
 }
 
@@ -94,6 +94,18 @@ void Connection::finish()
     } else if (m_state == State::Body || (m_state == State::Idle && m_stream.socket().available(error) == 0)) {
         m_stream.cancel();
     }
+}
+
+bool Connection::isIdle() const
+{
+    beast::error_code error;
+    return (m_state == State::Fresh || m_state == State::Idle) && m_stream.socket().available(error) == 0;
+}
+
+void Connection::evict()
+{
+    m_state = State::Evicted;
+    m_stream.cancel();
 }
 
 void Connection::abandon()
@@ -180,12 +192,15 @@ net::awaitable<bool> Connection::serve(Exchange &exchange)
     } else {
         reply = co_await handle(exchange);
     }
+    // Now, so that a client which has its reply can have the next.
     memory.release();
+    request.admission.reset();
     const auto isAbandoned = m_state == State::Abandoned;
     m_state = State::Replying;
     record.route = reply.route;
     record.status = isAbandoned ? Refusal::serverBusy().reply().status : reply.status;
     record.sent = reply.body.size();
+    record.more = std::move(reply.log);
     const auto keepAlive = !refusal && parser.get().keep_alive() && !m_stopping;
     record.delivered = !isAbandoned && co_await write(reply, parser, keepAlive);
     co_await tellSent(reply, record.delivered);

@@ -12,8 +12,8 @@
 /// One client's connection: its requests, one after the other. I/O thread only.
 class Connection {
 public:
-    Connection(net::ip::tcp::socket socket, RequestHandler &handler, const ServerOptions &options, BodyMemory &bodies,
-               const Server::AccessLog &log);
+    Connection(net::ip::tcp::socket socket, net::ip::address peer, RequestHandler &handler,
+               const ServerOptions &options, BodyMemory &bodies, const Server::AccessLog &log);
 
     /// Serves requests until the client or finish() ends it, or a limit is broken. Does not throw.
     net::awaitable<void> run();
@@ -22,6 +22,12 @@ public:
     /// the body has not been read yet. A connection without any request so far has a moment to send one.
     void finish();
 
+    /// Whether it waits for a request, of which nothing has come.
+    bool isIdle() const;
+
+    /// Ends a connection that is idle.
+    void evict();
+
     /// After finish(): waits no longer. A request that is being handled is refused in its handler's place.
     void abandon();
 
@@ -29,6 +35,7 @@ private:
     enum class State {
         Fresh,     ///< waits for the first request
         Idle,      ///< waits for a further one
+        Evicted,   ///< ends while it waits
         Header,    ///< reads one
         Body,      ///< reads one
         Handling,  ///< the handler works on a request that was read whole

@@ -2,7 +2,6 @@
 #include "http/Http.h"
 
 #include <QJsonDocument>
-#include <QJsonObject>
 
 namespace {
 

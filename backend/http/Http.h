@@ -3,17 +3,17 @@
 
 #include "support/Asio.h"
 
+#include <QJsonObject>
 #include <boost/asio/ip/address.hpp>
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
-
-class QJsonObject;
 
 /// One request, read whole, or its header only. It outlives the coroutine that handles it.
 struct Request {
@@ -24,6 +24,8 @@ struct Request {
     std::string contentType;
     std::string signature; ///< of a payment provider's message
     std::string body;
+    /// What RequestHandler::admit() keeps for the request until there is a reply.
+    std::shared_ptr<void> admission;
     /// Whether the client still waits for the reply; any thread.
     std::function<bool()> connected;
 };
@@ -35,6 +37,7 @@ struct Reply {
     std::vector<std::pair<std::string, std::string>> headers;
     /// What the access log names instead of the path, which may hold a checkout link's token.
     std::string route = "-";
+    QJsonObject log = {}; ///< what the access log tells of the request besides; nothing secret
     /// Called once when the reply has been sent, with true, or could not be.
     std::function<net::awaitable<void>(bool delivered)> sent;
 };
@@ -68,7 +71,16 @@ public:
     {
         return {429, "too_many_registrations", "Too many new devices. Please try again later."};
     }
+    static Refusal tooManyRequests()
+    {
+        return {429, "too_many_requests", "Too many requests. Please try again in a moment."};
+    }
     static Refusal serverError() { return {500, "server_error", "Something went wrong. Please try again."}; }
+    static Refusal unavailable()
+    {
+        return Refusal(503, "unavailable", "The server is unavailable right now. Please try again later.")
+            .retryAfter(std::chrono::seconds(10));
+    }
     static Refusal engineUnavailable()
     {
         return {503, "engine_unavailable", "Transcription is unavailable right now. Please try again later."};
@@ -101,8 +113,8 @@ public:
     virtual size_t bodyLimit(std::string_view path) const = 0;
 
     /// Asked when a request's header has been read and a body is to come, so that nobody can make the server hold what
-    /// it will refuse: the refusal, or nothing. Never fails.
-    virtual net::awaitable<std::optional<Reply>> admit(const Request &) { co_return std::nullopt; }
+    /// it will refuse: the refusal, or nothing. May set the header's `admission`. Never fails.
+    virtual net::awaitable<std::optional<Reply>> admit(Request &) { co_return std::nullopt; }
 
     /// Never fails: what goes wrong is a reply too.
     virtual net::awaitable<Reply> handle(const Request &request) = 0;

@@ -27,10 +27,18 @@ struct Metrics::Families {
                                                            .Name("quillo_http_request_seconds")
                                                            .Help("From a request's first byte to its reply's last")
                                                            .Register(registry);
-    prometheus::Family<prometheus::Histogram> &engine = prometheus::BuildHistogram()
-                                                            .Name("quillo_engine_seconds")
-                                                            .Help("Waiting for the engine and running it")
-                                                            .Register(registry);
+    prometheus::Family<prometheus::Histogram> &engine =
+        prometheus::BuildHistogram().Name("quillo_engine_seconds").Help("Running the engine").Register(registry);
+    prometheus::Histogram &queue = prometheus::BuildHistogram()
+                                       .Name("quillo_queue_seconds")
+                                       .Help("Waiting for a turn to be decoded and transcribed")
+                                       .Register(registry)
+                                       .Add({}, durations());
+    prometheus::Histogram &decoding = prometheus::BuildHistogram()
+                                          .Name("quillo_decoding_seconds")
+                                          .Help("Processor time for decoding a recording")
+                                          .Register(registry)
+                                          .Add({}, durations());
     prometheus::Counter &audio = prometheus::BuildCounter()
                                      .Name("quillo_audio_seconds_total")
                                      .Help("Started seconds of audio whose transcript was delivered")
@@ -48,11 +56,11 @@ struct Metrics::Families {
                                              .Add({});
     prometheus::Gauge &connections =
         prometheus::BuildGauge().Name("quillo_connections").Help("Open connections").Register(registry).Add({});
-    prometheus::Gauge &queue = prometheus::BuildGauge()
-                                   .Name("quillo_transcriptions_running")
-                                   .Help("Recordings that the engine has or that wait for it")
-                                   .Register(registry)
-                                   .Add({});
+    prometheus::Gauge &running = prometheus::BuildGauge()
+                                     .Name("quillo_transcriptions_running")
+                                     .Help("Recordings that the engine has or that wait for it")
+                                     .Register(registry)
+                                     .Add({});
 };
 
 Metrics::Metrics() : m_families(std::make_unique<Families>()) {}
@@ -67,7 +75,17 @@ void Metrics::answered(const AccessRecord &record)
     m_families->times.Add({{"route", record.route}}, durations()).Observe(Seconds(record.duration).count());
 }
 
-void Metrics::engineRan(std::chrono::steady_clock::duration duration, bool succeeded)
+void Metrics::waited(Duration duration)
+{
+    m_families->queue.Observe(Seconds(duration).count());
+}
+
+void Metrics::decoded(Duration duration)
+{
+    m_families->decoding.Observe(Seconds(duration).count());
+}
+
+void Metrics::engineRan(Duration duration, bool succeeded)
 {
     m_families->engine.Add({{"result", succeeded ? "ok" : "error"}}, durations()).Observe(Seconds(duration).count());
 }
@@ -86,6 +104,6 @@ void Metrics::chargeFailed()
 std::string Metrics::text(size_t connections, int placesTaken)
 {
     m_families->connections.Set(static_cast<double>(connections));
-    m_families->queue.Set(placesTaken);
+    m_families->running.Set(placesTaken);
     return prometheus::TextSerializer().Serialize(m_families->registry.Collect());
 }

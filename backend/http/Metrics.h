@@ -12,11 +12,15 @@
 /// What the server counts, for Prometheus. Any thread.
 class Metrics {
 public:
+    using Duration = std::chrono::steady_clock::duration;
+
     Metrics();
     ~Metrics();
 
     void answered(const AccessRecord &record);
-    void engineRan(std::chrono::steady_clock::duration duration, bool succeeded);
+    void waited(Duration duration);  ///< a recording, for its turns to be decoded and transcribed
+    void decoded(Duration duration); ///< whether that succeeded or not
+    void engineRan(Duration duration, bool succeeded);
     void delivered(qint64 seconds, qint64 tokens);
     void chargeFailed();
 

@@ -1,28 +1,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <boost/asio/ip/address.hpp>
-
 #include <chrono>
 #include <map>
 #include <optional>
+#include <string>
 
-/// Counts what addresses do: each may do `burst` things at once, and regains one after every `pace`. The 2^64 addresses
-/// that one IPv6 customer has count as one. One thread at a time.
+/// Token buckets, measured in the time that it takes to fill them: a full one has room for `whole`, what its owner does
+/// takes some of that, and it fills up again as time passes. One thread at a time.
 class RateLimiter {
 public:
     using Clock = std::chrono::steady_clock;
+    using Time = std::chrono::milliseconds;
 
-    /// A `burst` of 0 allows everything.
-    RateLimiter(int burst, std::chrono::seconds pace) : m_burst(burst), m_pace(pace) {}
+    /// Nothing when the owner's bucket has `cost`, which is taken out; otherwise the time until it will.
+    std::optional<Time> take(const std::string &owner, Time cost, Time whole, Clock::time_point now);
 
-    /// Nothing when the address may do it now, and then it counts as done; otherwise the time until it may.
-    std::optional<std::chrono::seconds> take(const boost::asio::ip::address &address, Clock::time_point now);
+    /// Takes out what has been used already, also when that is more than there is.
+    void add(const std::string &owner, Time cost, Clock::time_point now);
 
 private:
-    int m_burst;
-    std::chrono::seconds m_pace;
-    /// When an address will have regained everything. Those that have are forgotten.
-    std::map<boost::asio::ip::address, Clock::time_point> m_full;
+    Clock::time_point &fullAt(const std::string &owner, Clock::time_point now);
+
+    /// When a bucket will be full. Those that are full are forgotten.
+    std::map<std::string, Clock::time_point> m_full;
     Clock::time_point m_nextCleaning;
 };

@@ -35,14 +35,13 @@ void limitHeader(RequestParser &parser)
 
 std::string pathOf(std::string_view target)
 {
-    return std::string(target.substr(0, target.find('?')));
-}
-
-net::ip::address unmapped(const net::ip::address &address)
-{
-    return address.is_v6() && address.to_v6().is_v4_mapped()
-               ? net::ip::address(net::ip::make_address_v4(net::ip::v4_mapped, address.to_v6()))
-               : address;
+    for (const std::string_view scheme : {"http://", "https://"}) {
+        if (boost::beast::iequals(target.substr(0, scheme.size()), scheme)) {
+            target.remove_prefix(std::min(target.find_first_of("/?", scheme.size()), target.size()));
+        }
+    }
+    const auto path = target.substr(0, target.find('?'));
+    return path.empty() ? "/" : std::string(path);
 }
 
 bool isUnambiguous(const RequestParser &parser)
@@ -58,15 +57,20 @@ bool isUnambiguous(const RequestParser &parser)
            hosts <= 1 && (hosts == 1 || message.version() < hostRequired) && isHost(text(message[http::field::host]));
 }
 
+bool isTrusted(const net::ip::address &address, std::span<const Network> trustedProxies)
+{
+    return std::ranges::any_of(trustedProxies, [&](const Network &network) { return network.contains(address); });
+}
+
 net::ip::address clientAddress(const RequestParser &parser, const net::ip::address &peer,
-                               std::span<const net::ip::address> trustedProxies)
+                               std::span<const Network> trustedProxies)
 {
     // A proxy may add its entry to the client's own line, or write another below it.
     std::string entries;
     const auto [first, last] = parser.get().equal_range("X-Forwarded-For");
     std::for_each(first, last, [&](const auto &line) { entries += text(line.value()) + ','; });
     auto address = peer;
-    while (!entries.empty() && std::ranges::find(trustedProxies, address) != trustedProxies.end()) {
+    while (!entries.empty() && isTrusted(address, trustedProxies)) {
         entries.resize(entries.find_last_not_of(", \t") + 1);
         const auto start = entries.find_last_of(", \t") + 1;
         boost::system::error_code error;
@@ -89,6 +93,7 @@ Request headOf(const RequestParser &parser, const net::ip::address &address)
             text(message[http::field::authorization]),
             text(message[http::field::content_type]),
             text(message["Stripe-Signature"]),
+            {},
             {},
             {}};
 }

@@ -4,6 +4,7 @@
 #include "support/Log.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 void Router::add(std::string_view method, std::string_view path, Endpoint endpoint, size_t bodyLimit, Guard guard)
@@ -31,37 +32,44 @@ size_t Router::bodyLimit(std::string_view path) const
     return found == m_routes.end() ? smallBody : found->bodyLimit;
 }
 
-net::awaitable<std::optional<Reply>> Router::admit(const Request &head)
+net::awaitable<std::optional<Reply>> Router::admit(Request &head)
 {
-    return answer(head, Stage::Header);
+    co_return co_await answer(head, [&head](const Route &route) -> net::awaitable<std::optional<Reply>> {
+        if (route.guard) {
+            head.admission = co_await route.guard(head);
+        }
+        co_return std::nullopt;
+    });
 }
 
 net::awaitable<Reply> Router::handle(const Request &request)
 {
-    auto reply = co_await answer(request, Stage::Whole);
+    auto reply = co_await answer(request, [&request](const Route &route) -> net::awaitable<std::optional<Reply>> {
+        co_return co_await route.endpoint(request);
+    });
     co_return std::move(*reply);
 }
 
-/// The reply to a whole request, or to a header that is refused.
-net::awaitable<std::optional<Reply>> Router::answer(const Request &request, Stage stage) const
+net::awaitable<std::optional<Reply>> Router::answer(const Request &request, Work work) const
 {
     const auto pattern = patternOf(request.path);
-    const auto isMeant = [&](const Route &route) { return route.path == pattern && route.method == request.method; };
+    const auto isMeant = [&](const Route &route) {
+        return route.path == pattern &&
+               (route.method == request.method || (route.method == "GET" && request.method == "HEAD"));
+    };
     const auto route = std::ranges::find_if(m_routes, isMeant);
     std::optional<Reply> reply;
     try {
         if (route == m_routes.end()) {
-            reply = refusal(pattern);
-        } else if (stage == Stage::Whole) {
-            reply = co_await route->endpoint(request);
-        } else if (route->guard) {
-            co_await route->guard(request);
+            reply = withoutRoute(request, pattern);
+        } else {
+            reply = co_await work(*route);
         }
     } catch (const Refusal &refusal) {
         reply = refusal.reply();
     } catch (const std::exception &error) {
         logLine(error.what());
-        reply = Refusal::serverError().reply();
+        reply = m_refusalOf(error).reply();
     }
     if (reply) {
         reply->route = pattern.empty() ? "-" : pattern;
@@ -69,19 +77,36 @@ net::awaitable<std::optional<Reply>> Router::answer(const Request &request, Stag
     co_return reply;
 }
 
-/// Of a method that no route with this pattern has.
-Reply Router::refusal(std::string_view pattern) const
+Reply Router::withoutRoute(const Request &request, std::string_view pattern) const
 {
-    if (pattern.empty()) {
+    const auto isAboutServer = request.method == "OPTIONS" && request.path == "*";
+    if (pattern.empty() && !isAboutServer) {
         return Refusal::notFound().reply();
     }
-    std::string allowed;
+    auto reply = Refusal::methodNotAllowed().reply();
+    if (request.method == "OPTIONS") {
+        reply = {};
+        reply.status = 204;
+    }
+    reply.headers.emplace_back("Allow", methods(pattern));
+    return reply;
+}
+
+/// Those of the routes with this pattern, or of all when it is empty.
+std::string Router::methods(std::string_view pattern) const
+{
+    std::set<std::string> methods{"OPTIONS"};
     for (const auto &route : m_routes) {
-        if (route.path == pattern) {
-            allowed += (allowed.empty() ? "" : ", ") + std::string(route.method);
+        if (pattern.empty() || route.path == pattern) {
+            methods.emplace(route.method);
         }
     }
-    auto reply = Refusal::methodNotAllowed().reply();
-    reply.headers.emplace_back("Allow", allowed);
-    return reply;
+    if (methods.contains("GET")) {
+        methods.emplace("HEAD");
+    }
+    std::string list;
+    for (const auto &method : methods) {
+        list += (list.empty() ? "" : ", ") + method;
+    }
+    return list;
 }

@@ -5,12 +5,19 @@
 
 #include <vector>
 
-/// Finds the endpoint of a request, and turns what endpoints throw into replies.
+/// Finds the endpoint of a request, and turns what endpoints throw into replies. HEAD is answered wherever GET is, and
+/// OPTIONS everywhere.
 class Router : public RequestHandler {
 public:
     using Endpoint = std::function<net::awaitable<Reply>(const Request &)>;
-    /// Sees the header of a request with a body before that is read, and throws Refusal unless it may be sent.
-    using Guard = std::function<net::awaitable<void>(const Request &)>;
+    /// Sees the header of a request with a body before that is read, and throws Refusal unless it may be sent. What it
+    /// returns becomes the request's `admission`.
+    using Guard = std::function<net::awaitable<std::shared_ptr<void>>(const Request &)>;
+
+    /// What a client is told when its endpoint failed with anything but a Refusal.
+    using RefusalOf = Refusal (*)(const std::exception &);
+
+    explicit Router(RefusalOf refusalOf) : m_refusalOf(refusalOf) {}
 
     static constexpr size_t smallBody = 16'384;
 
@@ -19,7 +26,7 @@ public:
              Guard guard = {});
 
     size_t bodyLimit(std::string_view path) const override;
-    net::awaitable<std::optional<Reply>> admit(const Request &head) override;
+    net::awaitable<std::optional<Reply>> admit(Request &head) override;
     net::awaitable<Reply> handle(const Request &request) override;
 
 private:
@@ -30,13 +37,15 @@ private:
         size_t bodyLimit;
         Guard guard;
     };
-    enum class Stage { Header, Whole };
-
     /// The path's pattern, or an empty text.
     std::string_view patternOf(std::string_view path) const;
 
-    net::awaitable<std::optional<Reply>> answer(const Request &request, Stage stage) const;
-    Reply refusal(std::string_view pattern) const;
+    /// The reply of `work` on the request's route, or to a request without one; nothing when `work` has none.
+    using Work = std::function<net::awaitable<std::optional<Reply>>(const Route &)>;
+    net::awaitable<std::optional<Reply>> answer(const Request &request, Work work) const;
+    Reply withoutRoute(const Request &request, std::string_view pattern) const;
+    std::string methods(std::string_view pattern) const;
 
+    RefusalOf m_refusalOf;
     std::vector<Route> m_routes;
 };

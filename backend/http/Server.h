@@ -3,6 +3,8 @@
 
 #include "http/BodyMemory.h"
 #include "http/Http.h"
+#include "http/Network.h"
+#include "http/Shares.h"
 
 #include <boost/asio/ip/tcp.hpp>
 #include <boost/asio/steady_timer.hpp>
@@ -22,10 +24,12 @@ struct ServerOptions {
     std::chrono::milliseconds body{300'000};  ///< for a whole body
     std::chrono::milliseconds linger{5'000};  ///< for the client to read a reply and close, without progress
     std::chrono::milliseconds drain{120'000}; ///< for the running requests when the server stops; clients wait as long
-    size_t connections = 4096;                ///< at a time; further ones wait to be accepted
+    size_t connections = 12'000;              ///< at a time; for further ones, those end that wait for a request
+    int connectionsPerAddress = 256;          ///< of one customer, at a time; further ones are closed. 0 is no limit
     size_t bodies = 512UL * 1024 * 1024;      ///< bytes of all bodies held at a time
-    /// Proxies whose X-Forwarded-For header tells the client's address.
-    std::vector<net::ip::address> trustedProxies = {};
+    /// Proxies whose X-Forwarded-For header tells the client's address, and whose connections are not counted by
+    /// theirs.
+    std::vector<Network> trustedProxies = {};
 };
 
 /// Nothing in it is secret: the route stands for the path, which may hold a checkout link's token.
@@ -38,6 +42,7 @@ struct AccessRecord {
     size_t sent = 0;     ///< bytes of the reply's body
     bool delivered = false;
     std::chrono::microseconds duration{0}; ///< from the first byte received
+    QJsonObject more = {};                 ///< as the reply has it
 };
 
 /// HTTP/1.1 with keep-alive over one listening socket. Everything happens on the thread that runs the io_context, and
@@ -60,6 +65,7 @@ public:
 
 private:
     net::awaitable<void> accept();
+    void makeRoom();
     net::awaitable<void> giveUp(std::function<void()> gaveUp);
     void spawn(net::ip::tcp::socket socket);
     net::awaitable<void> serve(net::ip::tcp::socket socket);
@@ -69,6 +75,7 @@ private:
     ServerOptions m_options;
     AccessLog m_log;
     BodyMemory m_bodies;
+    Shares m_addresses;
     net::steady_timer m_drained;
     std::list<Connection *> m_connections;
     size_t m_open = 0; ///< connections with those that are about to be served

@@ -5,6 +5,7 @@
 #include "support/Secrets.h"
 
 #include <QFile>
+#include <QSet>
 #include <QSqlError>
 #include <QSqlRecord>
 #include <QUrl>
@@ -16,10 +17,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-[[noreturn]] void fail(const char *what, const QSqlError &error)
+/// Whether the database may do the same later. SQLite's codes: busy, locked, out of memory, input or output, full,
+/// can't open. PostgreSQL's classes: connection, resources, the operator's intervention.
+bool isPassing(const QSqlError &error, const QSqlDatabase &connection)
+{
+    static const QSet<QString> codes{u"5"_s, u"6"_s, u"7"_s, u"10"_s, u"13"_s, u"14"_s};
+    static const QSet<QString> classes{u"08"_s, u"53"_s, u"57"_s};
+    const auto code = error.nativeErrorCode();
+    return error.type() == QSqlError::ConnectionError || !connection.isOpen() || codes.contains(code) ||
+           (code.size() == 5 && classes.contains(code.first(2)));
+}
+
+[[noreturn]] void fail(const char *what, const QSqlError &error, const QSqlDatabase &connection)
 {
     // PostgreSQL's further lines may show a row.
-    throw StoreError(std::string(what) + ": " + error.text().trimmed().section(u'\n', 0, 0).toStdString());
+    const auto text = std::string(what) + ": " + error.text().trimmed().section(u'\n', 0, 0).toStdString();
+    if (isPassing(error, connection)) {
+        throw StoreUnavailable(text);
+    }
+    throw StoreError(text);
 }
 
 /// SQLite gives its journal files the permissions of the database, so it is enough to create that one privately.
@@ -101,7 +117,7 @@ void Database::open()
     m_prepared.clear();
     m_volatile = false;
     if (!m_connection.open()) {
-        fail("the database can't be opened", m_connection.lastError());
+        fail("the database can't be opened", m_connection.lastError(), m_connection);
     }
     if (m_postgreSql) {
         command(u"SET client_min_messages = warning"_s);
@@ -151,6 +167,7 @@ Database &Database::readyFor(bool isVolatile)
 QString Database::inDialect(QString sql) const
 {
     return sql.replace(u"{blob}"_s, m_postgreSql ? u"BYTEA"_s : u"BLOB"_s)
+        .replace(u"{unlogged}"_s, m_postgreSql ? u"UNLOGGED"_s : u""_s)
         .replace(u"{serial}"_s,
                  m_postgreSql ? u"BIGINT GENERATED ALWAYS AS IDENTITY PRIMARY KEY"_s : u"INTEGER PRIMARY KEY"_s);
 }
@@ -184,7 +201,7 @@ void Database::command(const QString &sql)
 {
     QSqlQuery query(m_connection);
     if (!query.exec(sql)) {
-        fail("the database failed", query.lastError());
+        fail("the database failed", query.lastError(), m_connection);
     }
 }
 
@@ -195,7 +212,7 @@ QSqlQuery &Database::prepared(const QString &sql)
     }
     QSqlQuery query(m_connection);
     if (!query.prepare(sql)) {
-        fail("the database refused a statement", query.lastError());
+        fail("the database refused a statement", query.lastError(), m_connection);
     }
     return m_prepared.emplace(sql, std::move(query)).first->second;
 }
@@ -210,7 +227,7 @@ QSqlQuery &Database::run(const QString &sql, const Row &values)
         query.bindValue(static_cast<int>(i), values[i]);
     }
     if (!query.exec()) {
-        fail("the database failed", query.lastError());
+        fail("the database failed", query.lastError(), m_connection);
     }
     return query;
 }

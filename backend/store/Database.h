@@ -15,6 +15,12 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// The database can't be reached, or can't work for now: a lost connection, a full disk.
+class StoreUnavailable : public StoreError {
+public:
+    using StoreError::StoreError;
+};
+
 using Row = QVariantList;
 
 /// One connection to an SQLite file or to a PostgreSQL server; the SQL is the same for both. All of its use,

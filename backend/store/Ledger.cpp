@@ -107,8 +107,10 @@ void Ledger::lapse(const QString &deviceId)
 
 bool Ledger::credit(const QString &deviceId, qint64 tokens, const QString &reason, const QString &reference)
 {
-    if (m_database.change(u"UPDATE devices SET balance = balance + ? WHERE id = ? AND balance - held + ? >= 0"_s,
-                          {tokens, deviceId, tokens}) != 1) {
+    if (tokens < -mostTokens || tokens > mostTokens ||
+        m_database.change(u"UPDATE devices SET balance = balance + ?"
+                          " WHERE id = ? AND balance - held + ? >= 0 AND balance + ? <= ?"_s,
+                          {tokens, deviceId, tokens, tokens, mostTokens}) != 1) {
         return false;
     }
     record(deviceId, tokens, reason, reference);
@@ -135,9 +137,11 @@ QList<LedgerEntry> Ledger::entries(const QString &deviceId, qint64 after, int mo
 QStringList Ledger::unexplained()
 {
     QStringList ids;
-    for (const auto &row : m_database.select(u"SELECT id FROM devices WHERE balance <>"
-                                             " (SELECT COALESCE(SUM(amount), 0) FROM ledger"
-                                             " WHERE device_id = devices.id) ORDER BY id"_s)) {
+    for (const auto &row :
+         m_database.select(u"SELECT id FROM devices LEFT JOIN"
+                           " (SELECT device_id, SUM(amount) AS entries FROM ledger GROUP BY device_id)"
+                           " AS sums ON device_id = id WHERE balance <> COALESCE(entries, 0)"
+                           " ORDER BY id"_s)) {
         ids.append(row[0].toString());
     }
     return ids;

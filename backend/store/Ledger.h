@@ -22,6 +22,9 @@ struct LedgerEntry {
 /// its holds lapse after `holdLifetime`.
 class Ledger {
 public:
+    /// That a device may have: whatever is added up, SQLite counts it in whole numbers.
+    static constexpr qint64 mostTokens = 1'000'000'000'000'000;
+
     /// In seconds; longer than a client waits for a transcript.
     static constexpr qint64 holdLifetime = 300;
 
@@ -47,7 +50,7 @@ public:
     void release(const Hold &hold);
 
     /// Adds to the balance inside the caller's transaction. `tokens` may be negative. False, without any effect, when
-    /// the balance would not cover what is on hold, or there is no such device.
+    /// the balance would not cover what is on hold or be above `mostTokens`, or there is no such device.
     bool credit(const QString &deviceId, qint64 tokens, const QString &reason, const QString &reference = {});
 
     /// Of one device or of all, the oldest first, after the entry `after`.

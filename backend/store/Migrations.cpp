@@ -35,6 +35,17 @@ const QList<QStringList> &migrations()
             " credited_at BIGINT)"_s,
             u"CREATE TABLE payment_events (id TEXT PRIMARY KEY, received_at BIGINT NOT NULL)"_s,
         },
+        {
+            // What is in it lasts for minutes, so a crash of PostgreSQL may empty it. In milliseconds since the epoch.
+            u"CREATE {unlogged} TABLE token_buckets (owner TEXT PRIMARY KEY, full_at BIGINT NOT NULL)"_s,
+            // Whose entries add up to which balance is read from the index alone.
+            u"CREATE INDEX ledger_sums ON ledger (device_id, id, amount)"_s,
+            u"DROP INDEX ledger_by_device"_s,
+            // The provider's name for what was paid, by which it reports a refund.
+            u"ALTER TABLE purchases ADD COLUMN payment TEXT NOT NULL DEFAULT ''"_s,
+            u"ALTER TABLE purchases ADD COLUMN taken_back BIGINT NOT NULL DEFAULT 0"_s, // tokens
+            u"CREATE INDEX purchases_by_payment ON purchases (payment)"_s,
+        },
     };
     return all;
 }

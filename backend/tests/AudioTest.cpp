@@ -3,6 +3,7 @@
 #include "audio/AudioDecoder.h"
 #include "audio/SpeechGate.h"
 
+#include <QtEndian>
 #include <sys/resource.h>
 
 #include <cmath>
@@ -12,10 +13,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-AudioError::Kind failure(const std::string &file, std::chrono::seconds longest = 60s)
+AudioError::Kind failure(const std::string &file, const DecodingLimits &limits = {60s})
 {
     try {
-        decodeAudio(file, longest);
+        decodeAudio(file, limits);
     } catch (const AudioError &error) {
         return error.kind();
     }
@@ -36,7 +37,7 @@ Samples waves(double amplitude, size_t count)
 
 TEST(AudioDecoderTest, KeepsTheDurationAndTheTone)
 {
-    const auto samples = decodeAudio(tone(), 60s);
+    const auto samples = decodeAudio(tone(), {60s});
     EXPECT_NEAR(static_cast<double>(samples.size()) / speechRate, 1.5, 0.05);
     int crossings = 0;
     for (size_t i = 1; i < speechRate; ++i) {
@@ -78,9 +79,41 @@ TEST(AudioDecoderTest, TakesLittleMemoryForASmallFileWithAHugeIndex)
     EXPECT_LT(peak() - before, 100 * 1024);
 }
 
-TEST(AudioDecoderTest, StopsAtTheLimit)
+TEST(AudioDecoderTest, StopsAtTheLimits)
 {
-    EXPECT_EQ(failure(tone(), 1s), AudioError::Kind::TooLong);
+    EXPECT_EQ(failure(tone(), {1s}), AudioError::Kind::TooLong);
+    EXPECT_EQ(failure(tone(), {.longest = 60s, .wanted = [asked = 0]() mutable { return ++asked < 9; }}),
+              AudioError::Kind::Stopped);
+    EXPECT_EQ(failure(tone(), {.longest = 60s, .time = 0ms}), AudioError::Kind::Unsupported); // not even opened
+}
+
+TEST(AudioDecoderTest, DecodesNoBytesAgainAndAgain)
+{
+    // 20,000 samples of 40 bytes, all of them the first bytes of the media, which are no AAC packet.
+    constexpr uint32_t count = 20'000;
+    const auto number = [](uint32_t value) {
+        return std::string{static_cast<char>(value >> 24), static_cast<char>(value >> 16),
+                           static_cast<char>(value >> 8), static_cast<char>(value)};
+    };
+    auto file = tone();
+    file.replace(file.find("edts"), 4, "free"); // which would leave out what is beyond the tone's duration
+    const auto place = [&](const char *box) { return file.find(box) + 4; };
+    const auto at = [&](size_t offset) { return qFromBigEndian<quint32>(file.data() + offset); };
+    file.replace(place("stsz") + 4, 8, number(40) + number(count));
+    file.replace(place("stsc") + 8, 12, number(1) + number(1) + number(1));
+    const auto offsets = place("stco");
+    const auto entries = std::string(file, offsets + 8, 4);
+    const auto present = 4 * at(offsets + 4);
+    std::string table = number(count);
+    for (uint32_t i = 0; i < count; ++i) {
+        table += entries;
+    }
+    const auto added = static_cast<uint32_t>(table.size()) - 4 - present;
+    file.replace(offsets + 4, 4 + present, table);
+    for (const auto *const box : {"moov", "trak", "mdia", "minf", "stbl", "stco"}) {
+        file.replace(place(box) - 8, 4, number(at(place(box) - 8) + added));
+    }
+    EXPECT_EQ(failure(file), AudioError::Kind::TooCostly);
 }
 
 TEST(SpeechGateTest, HoldsBackSilenceClicksAndSteadyNoise)
@@ -91,14 +124,14 @@ TEST(SpeechGateTest, HoldsBackSilenceClicksAndSteadyNoise)
         return gate.mayHoldSpeech();
     };
     EXPECT_FALSE(passes({}));
-    EXPECT_FALSE(passes(decodeAudio(silence(), 60s)));
+    EXPECT_FALSE(passes(decodeAudio(silence(), {60s})));
     EXPECT_FALSE(passes(waves(60, speechRate)));         // a microphone's noise and its constant offset
     EXPECT_FALSE(passes(waves(20000, speechRate / 20))); // a click of 50 ms
     for (const auto *const noise :
          {"anoisesrc=color=white:duration=5:amplitude=0.3:seed=1",
           "anoisesrc=color=pink:duration=5:amplitude=0.3:seed=1",
           "anoisesrc=color=brown:duration=5:amplitude=0.3:seed=1", "sine=frequency=50:duration=3"}) {
-        EXPECT_FALSE(passes(decodeAudio(recordingOf(generated(noise)), 60s))) << noise;
+        EXPECT_FALSE(passes(decodeAudio(recordingOf(generated(noise)), {60s}))) << noise;
     }
     auto soft = waves(10, speechRate);
     const auto voice = waves(600, speechRate / 2);
@@ -106,5 +139,5 @@ TEST(SpeechGateTest, HoldsBackSilenceClicksAndSteadyNoise)
     EXPECT_TRUE(passes(soft));
     const QStringList spoken{u"-f"_s,  u"s16le"_s, u"-ar"_s, u"16000"_s,
                              u"-ac"_s, u"1"_s,     u"-i"_s,  u"/usr/share/pocketsphinx/test/data/goforward.raw"_s};
-    EXPECT_TRUE(passes(decodeAudio(recordingOf(spoken), 60s)));
+    EXPECT_TRUE(passes(decodeAudio(recordingOf(spoken), {60s})));
 }

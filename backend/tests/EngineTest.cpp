@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "engine/FairQueue.h"
 #include "engine/OpenAiEngine.h"
 #include "engine/PocketSphinxEngine.h"
 
 #include "support/Audio.h"
 #include "support/RunningServer.h"
 
+#include <boost/asio/detached.hpp>
+#include <boost/asio/post.hpp>
 #include <gmock/gmock.h>
 
 using namespace std::chrono_literals;
@@ -91,7 +94,7 @@ TEST_F(OpenAiEngineTest, SendsTheFileAndWhatIsConfigured)
     options.key.clear();
     options.language = "de";
     options.prompt = "Quillo";
-    transcribe();
+    transcribe(); // what the request tells comes first
     EXPECT_EQ(upstream.last.authorization, "");
     EXPECT_THAT(upstream.last.body, HasSubstr("name=\"language\"\r\n\r\nde\r\n"));
     EXPECT_THAT(upstream.last.body, HasSubstr("name=\"prompt\"\r\n\r\nQuillo\r\n"));
@@ -141,6 +144,26 @@ TEST_F(OpenAiEngineTest, GivesUpOnAServerThatDoesNotAnswer)
     options.baseUrl = "http://127.0.0.1:" + std::to_string(silent.local_endpoint().port());
     OpenAiEngine engine(options);
     EXPECT_THROW(engine.transcribe({"the file", 60s}), EngineError);
+}
+
+TEST(FairQueueTest, ServesOwnersInTurnUntilItIsStopped)
+{
+    net::io_context io;
+    FairQueue queue(1);
+    std::string served;
+    const auto use = [&](std::string owner) -> net::awaitable<void> {
+        const auto turn = co_await queue.enter(owner);
+        served += turn ? owner : "-";
+        if (served.size() == 6) {
+            queue.stop();
+        }
+        co_await net::post(net::use_awaitable);
+    };
+    for (const auto *const owner : {"a", "a", "a", "b", "c", "b", "c", "d"}) {
+        net::co_spawn(io, use(owner), net::detached);
+    }
+    io.run();
+    EXPECT_EQ(served, "aabcda--");
 }
 
 TEST(PocketSphinxEngineTest, UnderstandsASpokenCommandAfterAac)

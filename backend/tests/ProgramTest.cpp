@@ -77,6 +77,8 @@ TEST_F(ProgramTest, NamesTheLineAndTheKeyOfABadValue)
         {{}, {}, {u"QUILLO_BACKEND_PORT=65536"_s}, "QUILLO_BACKEND_PORT must be"},
         {{}, {u"--port=x"_s}, {}, "--port must be"},
         {{}, {u"--address=localhost"_s}, {}, "--address must be"},
+        {{}, {u"--trusted-proxies=::1,10.0.0.0/33"_s}, {}, "--trusted-proxies must be IP addresses"},
+        {{}, {u"--monitor=127.0.0.1"_s}, {}, "--monitor must be an IP address and a port"},
         {{}, {u"--engine=none"_s}, {}, "--engine must be pocketsphinx or openai"},
         {{}, {u"--public-url=example.org"_s}, {}, "--public-url must begin with"},
         {{}, {u"--config=/nonexistent"_s}, {}, "--config /nonexistent can't be read"},
@@ -181,7 +183,9 @@ TEST_F(ProgramTest, ServesWhileItsOperatorLooksAfterTheDevices)
     const auto operate = [&](const QStringList &words) { return run(words + QStringList{u"--database"_s, database}); };
     const auto balance = [&] { return server.connect().send("GET", "/v1/balance", device); };
 
-    EXPECT_THAT(operate({u"devices"_s, u"list"_s}).output, testing::HasSubstr(id.toStdString()));
+    server.connect().send("POST", "/v1/devices", {}, R"({"platform":"\u001b[2J\n"})");
+    EXPECT_THAT(operate({u"devices"_s, u"list"_s}).output,
+                testing::AllOf(testing::HasSubstr(id.toStdString()), testing::HasSubstr(R"(\u001b[2J\u000a)")));
     EXPECT_EQ(operate({u"devices"_s, u"grant"_s, id, u"37"_s}).code, 0);
     EXPECT_EQ(operate({u"devices"_s, u"grant"_s, id, u"-2"_s}).code, 0);
     EXPECT_EQ(balance().balance(), 40);

@@ -114,3 +114,22 @@ TEST_F(ServerTest, RefusesWhatStillRunsAWhileAfterItWasToldToStop)
     stopped.get();
     expectToldOnce(false);
 }
+
+TEST(NetworkTest, ContainsTheAddressesOfItsBlock)
+{
+    struct Case {
+        const char *network, *inside, *outside;
+    };
+    for (const auto &[text, inside, outside] :
+         {Case{"10.0.0.0/8", "10.255.0.1", "11.0.0.0"}, Case{"192.0.2.128/25", "192.0.2.255", "192.0.2.127"},
+          Case{"192.0.2.7", "192.0.2.7", "192.0.2.6"}, Case{"0.0.0.0/0", "255.1.2.3", "::"},
+          Case{"2001:db8::/33", "2001:db8:7fff::1", "2001:db8:8000::1"}, Case{"::1", "::1", "::2"}}) {
+        const auto network = Network::parse(text);
+        ASSERT_TRUE(network) << text;
+        EXPECT_TRUE(network->contains(net::ip::make_address(inside))) << text;
+        EXPECT_FALSE(network->contains(net::ip::make_address(outside))) << text;
+    }
+    for (const auto *const text : {"", "10.0.0.0/33", "::/129", "10.0.0.0/", "10.0.0.0/8x", "10.0.0/8", "host"}) {
+        EXPECT_FALSE(Network::parse(text)) << text;
+    }
+}

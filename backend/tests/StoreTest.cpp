@@ -7,9 +7,11 @@
 #include <QDir>
 #include <QSqlError>
 #include <QUrl>
+#include <boost/asio/use_future.hpp>
 #include <gmock/gmock.h>
 
 #include <barrier>
+#include <limits>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -162,6 +164,11 @@ TEST_P(StoreTest, ChangesNoBalanceBelowWhatIsHeldAndNoneThatIsNotMetered)
     EXPECT_FALSE(store->ledger.credit(id, -4, u"operator"_s));
     EXPECT_TRUE(store->ledger.credit(id, -3, u"operator"_s));
     EXPECT_FALSE(store->ledger.credit(u"nobody"_s, 1, u"operator"_s));
+    for (const auto tokens :
+         {Ledger::mostTokens, std::numeric_limits<qint64>::max(), std::numeric_limits<qint64>::min()}) {
+        EXPECT_FALSE(store->ledger.credit(id, tokens, u"operator"_s)) << tokens;
+    }
+    EXPECT_TRUE(store->ledger.credit(id, Ledger::mostTokens - 7, u"operator"_s));
 
     const auto free = store->devices.add(u"linux"_s).deviceId;
     EXPECT_TRUE(store->devices.setUnmetered(free, true));
@@ -223,6 +230,45 @@ TEST_P(StoreTest, ConnectsAnewAfterTheConnectionWasLostAtAnyStatement)
         EXPECT_TRUE(store.devices.authenticate(credential(device)));
         EXPECT_TRUE(store.ledger.hold(device.deviceId, 1));
     }
+}
+
+TEST_P(StoreTest, WaitsForADatabaseThatCantBeReached)
+{
+    if (GetParam() == DatabaseKind::Sqlite) {
+        GTEST_SKIP() << "it is in this process";
+    }
+    DatabaseLine line(database.location());
+    line.cutAt("");
+    net::thread_pool waiting(1);
+    StoreThreads stores(line.location(), {}, [this] { return now; });
+    const auto add = [&] {
+        const auto work = [](Store &store) { return store.devices.add(u"linux"_s).deviceId; };
+        return net::co_spawn(waiting, stores.run(work), net::use_future).get();
+    };
+    EXPECT_THROW(add(), StoreUnavailable);
+    line.mend();
+    EXPECT_NE(add(), QString());
+    line.cutAt("INSERT INTO devices");
+    EXPECT_THROW(add(), StoreUnavailable);
+    line.mend();
+    EXPECT_NE(add(), QString());
+}
+
+TEST_P(StoreTest, SharesTokenBucketsAmongProcesses)
+{
+    if (GetParam() == DatabaseKind::Sqlite) {
+        GTEST_SKIP() << "a file is for one process, which has them in memory";
+    }
+    using namespace std::chrono_literals;
+    const auto first = open();
+    const auto second = open();
+    EXPECT_FALSE(first->buckets.take(u"a"_s, 4h, 10h));
+    EXPECT_FALSE(second->buckets.take(u"a"_s, 4h, 10h));
+    EXPECT_NEAR(static_cast<double>(first->buckets.take(u"a"_s, 4h, 10h)->count()), 2 * 3600e3, 60e3);
+    EXPECT_FALSE(first->buckets.take(u"b"_s, 10h, 10h));
+    EXPECT_FALSE(first->buckets.take(u"a"_s, 1h, 10h)); // what was refused has taken nothing
+    first->buckets.add(u"a"_s, 10h);
+    EXPECT_NEAR(static_cast<double>(second->buckets.take(u"a"_s, 1h, 10h)->count()), 10 * 3600e3, 60e3);
 }
 
 TEST_P(StoreTest, LimitsAStatementUnlessItsLocationDoes)

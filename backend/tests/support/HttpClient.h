@@ -10,8 +10,10 @@
 #include <boost/beast/core/flat_buffer.hpp>
 #include <boost/beast/http.hpp>
 
+#include <fstream>
 #include <string>
 #include <string_view>
+#include <utility>
 
 struct HttpAnswer {
     unsigned status = 0;
@@ -46,7 +48,11 @@ public:
         return receive();
     }
 
-    void write(std::string_view message) { boost::asio::write(m_socket, boost::asio::buffer(message)); }
+    void write(std::string_view message)
+    {
+        m_request += message.substr(0, message.find('\n'));
+        boost::asio::write(m_socket, boost::asio::buffer(message));
+    }
 
     /// `isHead`: the answer has a body's length without the body.
     HttpAnswer receive(bool isHead = false)
@@ -55,6 +61,7 @@ public:
         parser.skip(isHead);
         boost::beast::http::read(m_socket, m_buffer, parser);
         const auto &response = parser.get();
+        keep(response);
         using field = boost::beast::http::field;
         const auto text = [&](auto name) { return std::string(response[name]); };
         return {response.result_int(), text(field::content_type), text(field::location), text(field::retry_after),
@@ -82,6 +89,28 @@ public:
     }
 
 private:
+    /// For contract.py, which holds what the tests exchange to the description of the API.
+    void keep(const boost::beast::http::response<boost::beast::http::string_body> &response)
+    {
+        const auto request = QString::fromStdString(std::exchange(m_request, {})).split(QLatin1Char(' '));
+        if (!qEnvironmentVariableIsSet("QUILLO_EXCHANGES") || request.size() != 3 || response.result_int() == 100) {
+            return;
+        }
+        QJsonObject headers;
+        for (const auto &line : response) {
+            headers.insert(QString::fromStdString(std::string(line.name_string())),
+                           QString::fromStdString(std::string(line.value())));
+        }
+        const QJsonObject exchange{{QStringLiteral("method"), request[0]},
+                                   {QStringLiteral("path"), request[1]},
+                                   {QStringLiteral("status"), static_cast<int>(response.result_int())},
+                                   {QStringLiteral("headers"), headers},
+                                   {QStringLiteral("body"), QString::fromStdString(response.body())}};
+        std::ofstream(qgetenv("QUILLO_EXCHANGES").toStdString(), std::ios::app)
+            << QJsonDocument(exchange).toJson(QJsonDocument::Compact).toStdString() + "\n";
+    }
+
+    std::string m_request; ///< the first line of what was sent
     boost::asio::io_context m_io;
     boost::asio::ip::tcp::socket m_socket{m_io};
     boost::beast::flat_buffer m_buffer;

@@ -33,7 +33,8 @@ public:
     }
 
 private:
-    QTemporaryDir m_folder;
+    // Not in $TMPDIR, where its user may not get to, and short as the path of a socket must be.
+    QTemporaryDir m_folder{u"/tmp/quillo-postgresql-XXXXXX"_s};
     ChildProcess m_server;
 };
 
