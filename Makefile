@@ -1,31 +1,42 @@
 # SPDX-License-Identifier: MIT
-# Thin over CMake and tools/. Each target installs what is missing, builds, and does its job.
+# Thin over CMake and tools/. Each target installs what it needs and the machine lacks, builds, and does its job.
 
-.PHONY: run demo test lint bench screenshots build setup
+.PHONY: run demo programs demo-program test lint bench screenshots
 PRESET ?= dev
 
-run: build
-	tools/run $(PRESET)
+configure = cmake --preset $(1) --log-level=WARNING >/dev/null
+build = $(call configure,$(1)) && cmake --build --preset $(1)
 
-demo: build
-	tools/demo $(PRESET)
+# Without a display, Quillo is shown on a virtual one.
+run: $(if $(DISPLAY)$(WAYLAND_DISPLAY),programs,demo-program)
+	tools/run release
 
-test: build
+demo: demo-program
+	tools/demo release
+
+programs:
+	tools/setup build run
+	$(call build,release) --target quillo quillo-backend
+
+demo-program:
+	tools/setup build run demo
+	$(call build,release) --target quillo-demo
+
+test:
+	tools/setup build run demo test
+	$(call build,$(PRESET))
 	tools/test $(PRESET)
 
-lint: setup
+lint:
+	tools/setup build run demo test lint
 	tools/lint
 
 bench:
-	$(MAKE) build PRESET=release
-	tools/bench release
+	tools/setup build run demo test bench
+	$(call build,bench)
+	tools/bench bench
 
-screenshots: build
+screenshots:
+	tools/setup build run demo test
+	$(call build,$(PRESET)) --target quillo-screenshots
 	tools/screenshots $(PRESET)
-
-build: setup
-	cmake --preset $(PRESET) --log-level=WARNING
-	cmake --build --preset $(PRESET)
-
-setup:
-	tools/setup
