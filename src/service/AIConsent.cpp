@@ -25,7 +25,8 @@ std::optional<AIConsent::Record> AIConsent::record() const
     const QJsonObject object = QJsonDocument::fromJson(m_preferences.data(key).value_or(QByteArray())).object();
     const QJsonValue version = object.value(u"version"_s);
     const QJsonValue grantedAt = object.value(u"grantedAt"_s);
-    if (!version.isDouble() || version.toDouble() != std::floor(version.toDouble()) || !grantedAt.isDouble()) {
+    const bool isInteger = version.toInteger(0) == version.toInteger(1); // else the default, whatever that is
+    if (!isInteger || !grantedAt.isDouble()) {
         return std::nullopt;
     }
     // Far beyond any date: more would overflow the clock's milliseconds.

@@ -6,23 +6,37 @@
 #include "service/AIConsent.h"
 #include "service/Multipart.h"
 
+#include <QCoroFuture>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QtConcurrentRun>
 
+#include <limits>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString credentialAccount = u"apiDeviceCredential"_s;
+constexpr int unauthorized = 401;
 
 template <typename Record> std::optional<Record> decoded(const QByteArray &body)
 {
     const QJsonDocument document = QJsonDocument::fromJson(body);
     return document.isObject() ? Record::decode(document.object()) : std::nullopt;
+}
+
+/// Nothing when the file can't be read to its end.
+std::optional<QByteArray> content(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    const QByteArray bytes = file.readAll();
+    return file.error() == QFileDevice::NoError ? std::optional(bytes) : std::nullopt;
 }
 
 ApiError failure(const HttpResponse &response)
@@ -36,12 +50,13 @@ ApiError failure(const HttpResponse &response)
 } // namespace
 
 ApiClient::ApiClient(Preferences &preferences, const PackagedInfo &info, SecretStore &secrets, const AIConsent &consent,
-                     std::chrono::milliseconds timeout)
-    : m_preferences(preferences),
-      m_consent(consent),
-      m_keychain(secrets),
+                     Clock &clock, std::chrono::milliseconds timeout)
+    : m_consent(consent),
       m_transport(timeout),
-      m_baseUrl(baseUrl(preferences, info))
+      m_baseUrl(baseUrl(preferences, info)),
+      m_device(secrets, preferences, clock,
+               {.registerDevice = [this] { return registerDevice(); },
+                .tokens = [this](QString credential) { return tokens(std::move(credential)); }})
 {
 }
 
@@ -62,20 +77,27 @@ std::optional<QUrl> ApiClient::baseUrl(const Preferences &preferences, const Pac
     return url.isValid() && !url.isEmpty() ? std::optional(url) : std::nullopt;
 }
 
+QUrl ApiClient::endpoint(const QUrl &base, const QString &path)
+{
+    QUrl url = base;
+    url.setPath(base.path(QUrl::FullyEncoded) + path, QUrl::TolerantMode);
+    return url;
+}
+
 QCoro::Task<Transcript> ApiClient::transcribe(QString filePath)
 {
     if (!m_consent.isCurrent()) {
         throw AIConsentError();
     }
-    QFile file(filePath);
-    if (!file.open(QIODevice::ReadOnly)) {
+    const QFuture<std::optional<QByteArray>> reading = QtConcurrent::run(content, filePath);
+    const std::optional<QByteArray> recording = co_await reading;
+    if (!recording) {
         throw ApiError(u"no_audio"_s, u"Couldn't read the recording."_s, 0);
     }
-    const QByteArray recording = file.readAll();
-    if (recording.isEmpty()) {
+    if (recording->isEmpty()) {
         throw ApiError(u"no_audio"_s, u"Nothing was recorded. Check microphone access."_s, 0);
     }
-    const Multipart multipart(QFileInfo(filePath).fileName(), recording);
+    const Multipart multipart(QFileInfo(filePath).fileName(), *recording);
     Call call{u"/v1/transcribe"_s, "POST", multipart.body(), multipart.contentType()};
     call.isHurried = true; // the user waits for the text
     co_return co_await send<Transcript>(std::move(call));
@@ -89,6 +111,12 @@ QCoro::Task<Balance> ApiClient::balance()
 
 QCoro::Task<QUrl> ApiClient::checkoutLink()
 {
+    if (m_baseUrl) {
+        co_await m_device.get(false);
+        if (!m_device.isKept()) {
+            throw ApiError(u"keyring_locked"_s, u"Unlock the keyring first"_s, 0);
+        }
+    }
     Call call{u"/v1/checkout/link"_s, "POST"};
     const Link link = co_await send<Link>(std::move(call));
     co_return link.url;
@@ -96,7 +124,14 @@ QCoro::Task<QUrl> ApiClient::checkoutLink()
 
 template <typename Record> QCoro::Task<Record> ApiClient::send(Call call, bool retried)
 {
-    const HttpResponse response = co_await exchange(call);
+    if (!m_baseUrl) {
+        throw ApiError::notConfigured();
+    }
+    std::optional<QString> credential;
+    if (call.authenticated) {
+        credential = co_await m_device.get(call.isHurried);
+    }
+    const HttpResponse response = co_await exchange(call, credential);
     if (response.status >= 200 && response.status <= 299) {
         const std::optional<Record> record = decoded<Record>(response.body);
         if (!record) {
@@ -104,27 +139,22 @@ template <typename Record> QCoro::Task<Record> ApiClient::send(Call call, bool r
         }
         co_return *record;
     }
-    if (response.status == 401 && call.authenticated && !retried) {
+    if (response.status == unauthorized && credential && !retried) {
         // The backend no longer knows this device: the second attempt registers it anew.
-        co_await forgetCredential();
+        co_await m_device.forget(*credential);
         co_return co_await send<Record>(std::move(call), true);
     }
     throw failure(response);
 }
 
-QCoro::Task<HttpResponse> ApiClient::exchange(Call call)
+QCoro::Task<HttpResponse> ApiClient::exchange(Call call, std::optional<QString> credential)
 {
-    if (!m_baseUrl) {
-        throw ApiError::notConfigured();
-    }
-    HttpRequest request{call.method, *m_baseUrl, {}, std::move(call.body)};
-    request.url.setPath(m_baseUrl->path() + call.path);
+    HttpRequest request{call.method, endpoint(*m_baseUrl, call.path), {}, std::move(call.body)};
     if (call.contentType) {
         request.headers.append({"Content-Type", *call.contentType});
     }
-    if (call.authenticated) {
-        const QString credential = co_await deviceCredential(call.isHurried);
-        request.headers.append({"Authorization", "Bearer " + credential.toUtf8()});
+    if (credential) {
+        request.headers.append({"Authorization", "Bearer " + credential->toUtf8()});
     }
     const std::optional<HttpResponse> response = co_await m_transport.perform(std::move(request));
     if (!response) {
@@ -133,47 +163,24 @@ QCoro::Task<HttpResponse> ApiClient::exchange(Call call)
     co_return *response;
 }
 
-QCoro::Task<QString> ApiClient::deviceCredential(bool isHurried)
+QCoro::Task<Registration> ApiClient::registerDevice()
 {
-    if (m_credential && (m_isCredentialKept || isHurried)) {
-        co_return QString(*m_credential); // a copy: QCoro moves what it is given, an lvalue that isn't const too
-    }
-    if (const std::optional<QString> stored = co_await storedCredential()) {
-        co_return *stored;
-    }
-    if (m_credential) {
-        const QString credential = *m_credential;
-        m_isCredentialKept = co_await m_keychain.write(credentialAccount, credential);
-        co_return credential;
-    }
     Call call{u"/v1/devices"_s, "POST", QByteArrayLiteral("{\"platform\":\"macos\"}"),
               QByteArrayLiteral("application/json"), false};
-    const Registration registration = co_await send<Registration>(std::move(call));
-    const QString credential = registration.deviceId + u'.' + registration.secret;
-    if (const std::optional<QString> stored = co_await storedCredential()) {
-        co_return *stored; // unlocked meanwhile
-    }
-    const bool isKept = co_await m_keychain.write(credentialAccount, credential);
-    m_preferences.setBoolean(u"freeGrantMissed"_s, registration.freeGrantMissed);
-    m_credential = credential;
-    m_isCredentialKept = isKept;
-    co_return credential;
+    co_return co_await send<Registration>(std::move(call));
 }
 
-QCoro::Task<std::optional<QString>> ApiClient::storedCredential()
+QCoro::Task<std::optional<int64_t>> ApiClient::tokens(QString credential)
 {
-    const std::optional<QString> stored = co_await m_keychain.read(credentialAccount);
-    if (stored) {
-        m_credential = stored;
-        m_isCredentialKept = true;
-    }
-    co_return stored;
-}
-
-QCoro::Task<void> ApiClient::forgetCredential()
-{
-    m_credential.reset();
-    if (m_isCredentialKept) {
-        co_await m_keychain.remove(credentialAccount);
+    try {
+        Call call{u"/v1/balance"_s, "GET"};
+        const HttpResponse response = co_await exchange(std::move(call), credential);
+        if (response.status == unauthorized) {
+            co_return std::numeric_limits<int64_t>::min();
+        }
+        const auto balance = decoded<Balance>(response.body);
+        co_return balance ? std::optional(balance->balance) : std::nullopt;
+    } catch (const ApiError &) {
+        co_return std::nullopt;
     }
 }

@@ -3,8 +3,8 @@
 
 #include "service/ApiError.h"
 #include "service/ApiRecords.h"
+#include "service/DeviceCredential.h"
 #include "service/HttpTransport.h"
-#include "service/Keychain.h"
 
 #include <QByteArray>
 #include <QCoroTask>
@@ -18,10 +18,8 @@ class AIConsent;
 class PackagedInfo;
 class Preferences;
 
-/// The transcription backend. Registers this device at the first authenticated request and keeps the credential in the
-/// keychain. While that is locked the credential serves from memory, and each request but an upload looks again: a
-/// device that the keychain knows takes its place, with the tokens bought for it, and else it is kept there. Main
-/// thread only; every wait suspends. Operations fail with ApiError, an upload without consent with AIConsentError.
+/// The transcription backend. Registers this device at the first authenticated request. Main thread only; every wait
+/// suspends. Operations fail with ApiError, an upload without consent with AIConsentError.
 class ApiClient {
 public:
     /// No progress for this long fails a request.
@@ -29,17 +27,22 @@ public:
 
     /// The base URL is read here, once: the preference "apiURL", else the packaged QLOApiURL.
     ApiClient(Preferences &preferences, const PackagedInfo &info, SecretStore &secrets, const AIConsent &consent,
-              std::chrono::milliseconds timeout = requestTimeout);
+              Clock &clock, std::chrono::milliseconds timeout = requestTimeout);
+    ApiClient(const ApiClient &) = delete;
+    ApiClient &operator=(const ApiClient &) = delete;
 
     /// Where the backend is; nothing when no usable address is configured.
     static std::optional<QUrl> baseUrl(const Preferences &preferences, const PackagedInfo &info);
+
+    /// `path` begins with "/"; what is percent-encoded in the base stays so.
+    static QUrl endpoint(const QUrl &base, const QString &path);
 
     /// Uploads a recording, once. The file is neither changed nor deleted.
     QCoro::Task<Transcript> transcribe(QString filePath);
 
     QCoro::Task<Balance> balance();
 
-    /// The page where tokens are bought.
+    /// The page where tokens are bought; an error as long as the device they are for would be lost with this process.
     QCoro::Task<QUrl> checkoutLink();
 
 private:
@@ -49,20 +52,16 @@ private:
         std::optional<QByteArray> body = std::nullopt;
         std::optional<QByteArray> contentType = std::nullopt;
         bool authenticated = true;
-        bool isHurried = false; ///< a credential in memory serves, whatever the keychain may know by now
+        bool isHurried = false; ///< somebody waits: the keychain is not waited for long
     };
 
     template <typename Record> QCoro::Task<Record> send(Call call, bool retried = false);
-    QCoro::Task<HttpResponse> exchange(Call call);
-    QCoro::Task<QString> deviceCredential(bool isHurried);
-    QCoro::Task<std::optional<QString>> storedCredential();
-    QCoro::Task<void> forgetCredential();
+    QCoro::Task<HttpResponse> exchange(Call call, std::optional<QString> credential);
+    QCoro::Task<Registration> registerDevice();
+    QCoro::Task<std::optional<int64_t>> tokens(QString credential);
 
-    Preferences &m_preferences;
     const AIConsent &m_consent;
-    Keychain m_keychain;
     HttpTransport m_transport;
     std::optional<QUrl> m_baseUrl;
-    std::optional<QString> m_credential;
-    bool m_isCredentialKept = false; // in the keychain too
+    DeviceCredential m_device;
 };

@@ -3,8 +3,6 @@
 
 #include <QJsonObject>
 
-#include <cmath>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -41,12 +39,9 @@ Member<bool> boolean(const QJsonObject &object, const QString &key)
 std::optional<int64_t> integer(const QJsonObject &object, const QString &key)
 {
     const QJsonValue value = object.value(key);
-    const double number = value.toDouble();
-    // 2^63, the first number beyond the range, is exact as a double.
-    if (!value.isDouble() || std::floor(number) != number || std::abs(number) >= 0x1p63) {
-        return std::nullopt;
-    }
-    return value.toInteger();
+    // What is no integer of 64 bits yields the default, whatever that is.
+    const qint64 number = value.toInteger(0);
+    return number == value.toInteger(1) ? std::optional<int64_t>(number) : std::nullopt;
 }
 
 } // namespace
@@ -81,7 +76,7 @@ std::optional<Balance> Balance::decode(const QJsonObject &object)
 
 std::optional<Link> Link::decode(const QJsonObject &object)
 {
-    const QUrl url(string(object, u"url"_s).value.value_or(QString()), QUrl::StrictMode);
+    const QUrl url(string(object, u"url"_s).value.value_or(QString())); // blanks and the like are encoded
     return url.isValid() && !url.isEmpty() ? std::optional(Link{url}) : std::nullopt;
 }
 

@@ -56,10 +56,19 @@ struct Upload {
     static int seek(void * /*self*/, curl_off_t /*offset*/, int /*origin*/) { return CURL_SEEKFUNC_FAIL; }
 };
 
-size_t receive(const char *bytes, size_t size, size_t count, void *body)
+/// A reply of the backend has some kilobytes; one that goes on and on would fill the memory.
+constexpr qsizetype longestReply = 16 * 1024 * 1024;
+
+/// Fewer bytes taken than given end the exchange.
+size_t receive(const char *bytes, size_t size, size_t count, void *self)
 {
-    static_cast<QByteArray *>(body)->append(bytes, qsizetype(size) * qsizetype(count));
-    return size * count;
+    auto &body = *static_cast<QByteArray *>(self);
+    const auto length = qsizetype(size * count);
+    if (body.size() + length > longestReply) {
+        return 0;
+    }
+    body.append(bytes, length);
+    return size_t(length);
 }
 
 } // namespace
@@ -97,6 +106,8 @@ std::optional<HttpResponse> HttpConnection::exchange(const HttpRequest &request,
     curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(easy, CURLOPT_MAXAGE_CONN, longestIdleSeconds);
     curl_easy_setopt(easy, CURLOPT_USERAGENT, "Quillo");
+    curl_easy_setopt(easy, CURLOPT_ACCEPT_ENCODING, "gzip");
+    curl_easy_setopt(easy, CURLOPT_QUICK_EXIT, 1L); // a name that is being resolved doesn't hold up the program's end
     curl_easy_setopt(easy, CURLOPT_HTTPHEADER, headers.get());
     curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, receive);
     curl_easy_setopt(easy, CURLOPT_WRITEDATA, &response.body);

@@ -6,7 +6,17 @@
 #include <coroutine>
 #include <utility>
 
-HttpTransport::HttpTransport(std::chrono::milliseconds timeout) : m_timeout(timeout) {}
+namespace {
+
+// Threads that wait for a server cost next to nothing, and an upload that waits for one costs its user's time.
+constexpr int mostExchanges = 64;
+
+} // namespace
+
+HttpTransport::HttpTransport(std::chrono::milliseconds timeout) : m_timeout(timeout)
+{
+    m_threads.setMaxThreadCount(mostExchanges);
+}
 
 HttpTransport::~HttpTransport()
 {
@@ -46,6 +56,9 @@ private:
 
 QCoro::Task<std::optional<HttpResponse>> HttpTransport::perform(HttpRequest request)
 {
+    if (request.url.scheme() != u"https" && request.url.scheme() != u"http") {
+        co_return std::nullopt; // no guess: what is meant to be encrypted would go in clear
+    }
     HttpConnection *const connection = takeIdle();
     Exchange exchange(*this, *connection, request);
     std::optional<HttpResponse> response = co_await exchange;

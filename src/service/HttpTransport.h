@@ -41,7 +41,8 @@ public:
     /// Breaks off what is under way. Who waits for it is never resumed: its owner is going, too.
     ~HttpTransport();
 
-    /// Nothing when no complete response arrived: offline, name resolution, TLS, connection lost, time-out.
+    /// Nothing when no complete response arrived: offline, name resolution, TLS, connection lost, time-out, more than
+    /// 16 MiB, or an address that is neither http nor https.
     QCoro::Task<std::optional<HttpResponse>> perform(HttpRequest request);
 
 private:

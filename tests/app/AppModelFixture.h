@@ -40,7 +40,7 @@ protected:
             }
             return transcript;
         };
-        client.emplace(fake.preferences, fake.packagedInfo, fake.secrets, consent);
+        client.emplace(fake.preferences, fake.packagedInfo, fake.secrets, consent, fake.clock);
         model.emplace(fake.platform, *client, consent, views());
     }
 

@@ -3,14 +3,22 @@
 
 #include "platform/SecretStore.h"
 
+#include <QCoroFuture>
 #include <QMap>
 #include <QPair>
+#include <QPromise>
+
+#include <memory>
 
 /// Secrets in memory; out of reach while the store is absent or locked.
 class FakeSecretStore : public SecretStore {
 public:
     QCoro::Task<std::optional<QByteArray>> read(QString service, QString account) override
     {
+        if (answer) {
+            const QFuture<void> answered = answer->future();
+            co_await answered;
+        }
         const auto found = items.constFind({service, account});
         co_return !isAvailable || found == items.constEnd() ? std::nullopt : std::optional(*found);
     }
@@ -33,4 +41,5 @@ public:
 
     QMap<QPair<QString, QString>, QByteArray> items;
     bool isAvailable = true;
+    std::shared_ptr<QPromise<void>> answer; ///< reading waits for it, where there is one
 };

@@ -23,12 +23,13 @@ TEST(AIConsentTest, AnAgreementCountsUntilItIsWithdrawn)
     EXPECT_FALSE(consent.isCurrent());
     consent.grant();
     EXPECT_TRUE(consent.isCurrent());
+    EXPECT_EQ(preferences.values[u"aiConsent"_s].toByteArray(), R"({"grantedAt":791553600,"version":1})");
     clock.advance(1500ms);
     consent.grant();
     EXPECT_EQ(consent.record()->grantedAt, clock.now());
     consent.withdraw();
     EXPECT_FALSE(consent.record());
-    EXPECT_FALSE(preferences.values.contains(key));
+    EXPECT_TRUE(preferences.values.isEmpty());
 }
 
 TEST(AIConsentTest, StoredRecordsAreReadAsTheyAre)
@@ -45,6 +46,7 @@ TEST(AIConsentTest, StoredRecordsAreReadAsTheyAre)
                            Row{QByteArray(R"({"grantedAt":1,"version":2})"), true, false},
                            Row{QByteArray(R"({"grantedAt":1e300,"version":1})"), true, true},
                            Row{QByteArray(R"({"grantedAt":1,"version":1.5})"), false, false},
+                           Row{QByteArray(R"({"grantedAt":1,"version":1e300})"), false, false},
                            Row{QByteArray(R"({"grantedAt":"now","version":1})"), false, false},
                            Row{QByteArray(R"({"version":1})"), false, false}, Row{QByteArray("[]"), false, false},
                            Row{QString(R"({"grantedAt":1,"version":1})"_L1), false, false}}) {

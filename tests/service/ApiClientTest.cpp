@@ -3,6 +3,7 @@
 
 #include "FakePlatform.h"
 #include "support/Await.h"
+#include "support/ChildProcess.h"
 #include "support/HttpServer.h"
 #include "support/Printing.h"
 
@@ -12,6 +13,10 @@
 #include <QTemporaryFile>
 
 #include <gtest/gtest.h>
+
+#include <limits>
+#include <memory>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -43,7 +48,7 @@ protected:
     /// A client with the preferences as they are now.
     ApiClient client(std::chrono::milliseconds timeout = ApiClient::requestTimeout)
     {
-        return ApiClient(fake.preferences, fake.packagedInfo, fake.secrets, consent, timeout);
+        return ApiClient(fake.preferences, fake.packagedInfo, fake.secrets, consent, fake.clock, timeout);
     }
 
     template <typename T> static std::optional<ApiError> errorOf(QCoro::Task<T> task)
@@ -88,6 +93,7 @@ TEST_F(ApiClientTest, TheFirstRequestRegistersTheDeviceAndKeepsItsCredential)
     auto api = client();
     EXPECT_EQ(resultOf(api.balance()).balance, 7);
     EXPECT_FALSE(resultOf(api.balance()).unmetered);
+    EXPECT_EQ(server.requests().last().headers.value("authorization"), "Bearer dev.s3cret");
 
     ASSERT_EQ(server.requests().size(), 3);
     const auto &registering = server.requests().at(0);
@@ -104,16 +110,6 @@ TEST_F(ApiClientTest, TheFirstRequestRegistersTheDeviceAndKeepsItsCredential)
     EXPECT_TRUE(fake.preferences.boolean(u"freeGrantMissed"_s));
 
     resultOf(client().balance());
-    EXPECT_EQ(server.count("/v1/devices"), 1);
-}
-
-TEST_F(ApiClientTest, EveryRequestNamesTheSameDevice)
-{
-    auto api = client();
-    for (int i = 0; i < 4; ++i) {
-        resultOf(api.balance());
-        EXPECT_EQ(server.requests().last().headers.value("authorization"), "Bearer dev.s3cret");
-    }
     EXPECT_EQ(server.count("/v1/devices"), 1);
 }
 
@@ -148,6 +144,17 @@ TEST_F(ApiClientTest, TheBaseUrlIsThePreferenceElseThePackagedValue)
     }
 }
 
+TEST_F(ApiClientTest, AddressesAreTakenAsTheyAreWritten)
+{
+    fake.secrets.items.insert(credentialItem, "known.device");
+    fake.preferences.setString(u"apiURL"_s, server.url() + u"/a%2Fb%20c/"_s);
+    resultOf(client().balance());
+    EXPECT_EQ(server.requests().last().path, "/a%2Fb%20c/v1/balance");
+    fake.preferences.setString(u"apiURL"_s, u"localhost"_s + server.url().sliced(16)); // without "http://"
+    expectError(errorOf(client().balance()), u"network"_s, networkError, 0);
+    EXPECT_EQ(server.requests().size(), 1);
+}
+
 TEST_F(ApiClientTest, EveryReplyThatIsNoSuccessBecomesItsError)
 {
     struct Row {
@@ -166,21 +173,20 @@ TEST_F(ApiClientTest, EveryReplyThatIsNoSuccessBecomesItsError)
         {{503, R"({"error":null,"message":null})"}, u"server_error"_s, somethingWrong, 503},
         {{500, R"({"error":5,"message":"typed wrong"})"}, u"server_error"_s, somethingWrong, 500},
         {{502, "<html>Bad gateway</html>"}, u"server_error"_s, somethingWrong, 502},
-        {{404, ""}, u"server_error"_s, somethingWrong, 404},
         {{302, "", Ending::Complete, "Location: /v1/devices\r\n"}, u"server_error"_s, somethingWrong, 302},
         {{200, "{}"}, u"server_error"_s, somethingWrong, 200},
-        {{200, "not json"}, u"server_error"_s, somethingWrong, 200},
-        {{204, ""}, u"server_error"_s, somethingWrong, 204},
         {{200, R"({"balance":"7"})"}, u"server_error"_s, somethingWrong, 200},
         {{200, R"({"balance":7.5})"}, u"server_error"_s, somethingWrong, 200},
         {{200, R"({"balance":1e300})"}, u"server_error"_s, somethingWrong, 200},
+        {{200, R"({"balance":9223372036854775808})"}, u"server_error"_s, somethingWrong, 200},
         {{200, R"({"balance":null})"}, u"server_error"_s, somethingWrong, 200},
         {{200, R"({"balance":7,"unmetered":1})"}, u"server_error"_s, somethingWrong, 200},
         {{200, R"({"balance":7})", Ending::CutInBody}, u"network"_s, networkError, 0},
         {{200, "", Ending::CloseWithoutReply}, u"network"_s, networkError, 0},
+        {{200, QByteArray(16 * 1024 * 1024, ' ') + R"({"balance":7})"}, u"network"_s, networkError, 0},
     };
     for (const Row &row : table) {
-        SCOPED_TRACE(row.reply.body.toStdString());
+        SCOPED_TRACE(row.reply.body.left(60).toStdString());
         reply = row.reply;
         auto api = client();
         expectError(errorOf(api.balance()), row.code, row.message, row.status);
@@ -190,15 +196,28 @@ TEST_F(ApiClientTest, EveryReplyThatIsNoSuccessBecomesItsError)
 
 TEST_F(ApiClientTest, RepliesDecodeTheirOptionalMembers)
 {
-    for (const auto &[json, unmetered] : {std::pair{R"({"balance":-3,"unmetered":true,"more":[]})", true},
-                                          {R"({"balance":-3.0,"unmetered":null})", false}}) {
-        reply.body = json;
+    struct Row {
+        QByteArray json;
+        int64_t balance;
+        bool isUnmetered;
+    };
+    for (const Row &row : {Row{R"({"balance":-3,"unmetered":true,"more":[]})", -3, true},
+                           Row{R"({"balance":-3.0,"unmetered":null})", -3, false},
+                           Row{R"({"balance":9223372036854775807})", std::numeric_limits<int64_t>::max(), false},
+                           Row{R"({"balance":-9223372036854775808})", std::numeric_limits<int64_t>::min(), false}}) {
+        reply.body = row.json;
         const Balance balance = resultOf(client().balance());
-        EXPECT_EQ(balance.balance, -3);
-        EXPECT_EQ(balance.unmetered, unmetered);
+        EXPECT_EQ(balance.balance, row.balance);
+        EXPECT_EQ(balance.unmetered, row.isUnmetered);
     }
-    reply.body = R"({"url":"https://pay.example/link?a=b"})";
-    EXPECT_EQ(resultOf(client().checkoutLink()), QUrl(u"https://pay.example/link?a=b"_s));
+    const auto asked = server.requests().last().headers.value("accept-encoding");
+    EXPECT_EQ(asked, "gzip");
+    reply.headers = "Content-Encoding: gzip\r\n";
+    reply.body = QByteArray::fromBase64("H4sIAAAAAAACA6tWSkrMScxLTlWyMjSqBQBJDcKXDgAAAA==");
+    EXPECT_EQ(resultOf(client().balance()).balance, 12);
+    reply.headers.clear();
+    reply.body = R"({"url":"https://pay.example/link?a=b c"})";
+    EXPECT_EQ(resultOf(client().checkoutLink()).toEncoded(), "https://pay.example/link?a=b%20c");
     EXPECT_EQ(server.requests().last().method, "POST");
     EXPECT_EQ(server.requests().last().body, "");
     EXPECT_FALSE(server.requests().last().headers.contains("content-type"));
@@ -224,14 +243,29 @@ TEST_F(ApiClientTest, ADeviceThatIsNoLongerKnownRegistersAnewOnce)
     EXPECT_EQ(server.count("/v1/balance"), 2);
     EXPECT_EQ(fake.secrets.items.value(credentialItem), "dev.s3cret");
     EXPECT_FALSE(fake.preferences.boolean(u"freeGrantMissed"_s));
+
+    server.onRequest = [](const HttpServer::Request &request) {
+        return request.path == "/v1/devices" ? HttpServer::Response{200, R"({"deviceId":"d","secret":"s"})"}
+                                             : HttpServer::Response{401, R"({"error":"no","message":"Who are you?"})"};
+    };
+    expectError(errorOf(client().balance()), u"no"_s, u"Who are you?"_s, 401);
+    EXPECT_EQ(server.count("/v1/balance"), 4) << "a second refusal is final";
 }
 
-TEST_F(ApiClientTest, ASecondRefusalIsFinal)
+TEST_F(ApiClientTest, TwoRequestsThatAreRefusedAtOnceRegisterOnce)
 {
-    reply = {401, R"({"error":"unauthorized","message":"Who are you?"})"};
-    expectError(errorOf(client().balance()), u"unauthorized"_s, u"Who are you?"_s, 401);
-    EXPECT_EQ(server.count("/v1/balance"), 2);
-    EXPECT_EQ(server.count("/v1/devices"), 2);
+    fake.secrets.items.insert(credentialItem, "old.credential");
+    server.onRequest = [this](const HttpServer::Request &request) {
+        const bool isRefused = request.headers.value("authorization") == "Bearer old.credential";
+        return request.path == "/v1/devices" ? HttpServer::Response{200, registration}
+                                             : HttpServer::Response{isRefused ? 401 : 200, R"({"balance":1})"};
+    };
+    auto api = client();
+    auto one = api.balance();
+    auto other = api.balance();
+    EXPECT_EQ(resultOf(std::move(one)).balance, 1);
+    EXPECT_EQ(resultOf(std::move(other)).balance, 1);
+    EXPECT_EQ(server.count("/v1/devices"), 1);
 }
 
 TEST_F(ApiClientTest, AFailedRegistrationIsTheErrorAndStoresNothing)
@@ -255,56 +289,126 @@ TEST_F(ApiClientTest, AFailedRegistrationIsTheErrorAndStoresNothing)
     }
 }
 
-TEST_F(ApiClientTest, WithoutASecretStoreTheCredentialServesFromMemory)
+TEST_F(ApiClientTest, WhileTheKeychainIsOutOfReachARegistrationInMemoryServes)
 {
     fake.secrets.isAvailable = false;
     auto api = client();
     resultOf(api.balance());
     resultOf(api.balance());
     EXPECT_EQ(server.count("/v1/devices"), 1);
+    expectError(errorOf(api.checkoutLink()), u"keyring_locked"_s, u"Unlock the keyring first"_s, 0);
+    EXPECT_EQ(server.count("/v1/checkout/link"), 0) << "what is bought for it would be lost";
     fake.secrets.isAvailable = true;
-    fake.secrets.items.insert(credentialItem, "\xff\xfe");
-    resultOf(client().balance());
-    EXPECT_EQ(server.count("/v1/devices"), 2);
-    EXPECT_EQ(fake.secrets.items.value(credentialItem), "dev.s3cret");
-}
-
-TEST_F(ApiClientTest, ALockedStoreLosesNothing)
-{
-    const auto device = [this] { return server.requests().last().headers.value("authorization"); };
-    fake.secrets.isAvailable = false;
-    auto fresh = client();
-    resultOf(fresh.balance());
-    fake.secrets.isAvailable = true;
-    resultOf(fresh.balance());
+    resultOf(api.balance());
     EXPECT_EQ(fake.secrets.items.value(credentialItem), "dev.s3cret") << "kept as soon as it can be";
 
-    fake.secrets.items.insert(credentialItem, "earlier.device");
-    fake.secrets.isAvailable = false;
-    auto known = client();
-    resultOf(known.balance());
-    EXPECT_EQ(device(), "Bearer dev.s3cret");
-    fake.secrets.isAvailable = true;
-    reply.body = R"({"text":"Hello","balance":7})";
-    resultOf(known.transcribe(recording("sound")));
-    EXPECT_EQ(device(), "Bearer dev.s3cret") << "the text does not wait for the store";
-    resultOf(known.balance());
-    EXPECT_EQ(device(), "Bearer earlier.device");
+    fake.secrets.items.insert(credentialItem, "\xff\xfe");
+    registration = R"({"deviceId":"dev","secret":"another"})";
+    resultOf(client().balance());
+    EXPECT_EQ(fake.secrets.items.value(credentialItem), "dev.another");
+}
 
-    // Unlocked while the device registers, or while a request of it is refused.
-    for (const QByteArray path : {"/v1/devices", "/v1/balance"}) {
+TEST_F(ApiClientTest, OfTwoDevicesTheOneWithMoreTokensStays)
+{
+    struct Row {
+        HttpServer::Response own;
+        HttpServer::Response stored;
+        QByteArray expected;
+        QByteArray kept;
+    };
+    const HttpServer::Response poor{200, R"({"balance":1})"};
+    const HttpServer::Response rich{200, R"({"balance":2})"};
+    const HttpServer::Response unknown{401, "{}"};
+    const HttpServer::Response broken{500, "{}"};
+    for (const Row &row :
+         {Row{poor, rich, "stored.device", "stored.device"}, Row{poor, poor, "stored.device", "stored.device"},
+          Row{rich, poor, "dev.s3cret", "dev.s3cret"}, Row{rich, unknown, "dev.s3cret", "dev.s3cret"},
+          Row{unknown, poor, "stored.device", "stored.device"}, Row{rich, broken, "dev.s3cret", "stored.device"}}) {
+        SCOPED_TRACE((row.own.body + row.stored.body).toStdString());
+        fake.secrets.items.insert(credentialItem, "stored.device");
         fake.secrets.isAvailable = false;
-        server.onRequest = [&](const HttpServer::Request &request) {
-            fake.secrets.isAvailable = fake.secrets.isAvailable || request.path == path;
-            const bool isRefused = request.headers.value("authorization") == "Bearer dev.s3cret";
-            return request.path == "/v1/devices" ? HttpServer::Response{201, registration}
-                                                 : HttpServer::Response{isRefused ? 401 : 200, R"({"balance":7})"};
-        };
         auto api = client();
-        EXPECT_EQ(resultOf(api.balance()).balance, 7) << path.constData();
-        EXPECT_EQ(device(), "Bearer earlier.device") << path.constData();
-        EXPECT_EQ(fake.secrets.items.value(credentialItem), "earlier.device") << path.constData();
+        resultOf(api.balance());
+        server.onRequest = [&](const HttpServer::Request &request) {
+            return request.path == "/v1/devices"      ? HttpServer::Response{200, registration}
+                   : request.path == "/v1/transcribe" ? reply
+                   : request.headers.value("authorization") == "Bearer dev.s3cret" ? row.own
+                                                                                   : row.stored;
+        };
+        fake.secrets.isAvailable = true;
+        reply.body = R"({"text":"Hello","balance":7})";
+        resultOf(api.transcribe(recording("sound")));
+        EXPECT_EQ(server.requests().last().headers.value("authorization"), "Bearer dev.s3cret") << "doesn't wait";
+        errorOf(api.balance());
+        resultOf(api.transcribe(recording("sound")));
+        EXPECT_EQ(server.requests().last().headers.value("authorization"), "Bearer " + row.expected);
+        EXPECT_EQ(fake.secrets.items.value(credentialItem), row.kept);
+        server.onRequest = [this](const HttpServer::Request &request) {
+            return request.path == "/v1/devices" ? HttpServer::Response{200, registration} : reply;
+        };
     }
+}
+
+TEST_F(ApiClientTest, ADictationWaitsForTheKeychainForThreeSeconds)
+{
+    fake.secrets.items.insert(credentialItem, "stored.device");
+    fake.secrets.answer = std::make_shared<QPromise<void>>();
+    fake.secrets.answer->start();
+    reply.body = R"({"text":"Hello","balance":7})";
+    auto api = client();
+    const QString path = recording("sound");
+    auto dictation = api.transcribe(path);
+    ASSERT_TRUE(await([&] { return fake.clock.pending() == 1; }));
+    fake.clock.advance(2999ms);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(fake.clock.pending(), 1);
+    EXPECT_EQ(server.requests().size(), 0);
+    fake.clock.advance(1ms);
+    EXPECT_EQ(resultOf(std::move(dictation)).text, u"Hello"_s);
+    EXPECT_EQ(server.requests().last().headers.value("authorization"), "Bearer dev.s3cret");
+
+    // It answers at last, with a device that has as many tokens.
+    fake.secrets.answer->finish();
+    ASSERT_TRUE(await([&] { return server.count("/v1/balance") == 2; }));
+    resultOf(api.transcribe(path));
+    EXPECT_EQ(resultOf(api.balance()).balance, 7);
+    EXPECT_EQ(server.requests().last().headers.value("authorization"), "Bearer stored.device");
+    EXPECT_EQ(fake.secrets.items.value(credentialItem), "stored.device");
+}
+
+TEST_F(ApiClientTest, RequestsDoNotWaitForEachOther)
+{
+    fake.secrets.items.insert(credentialItem, "known.device");
+    reply.body = R"({"text":"Hello","balance":7})";
+    server.onRequest = [this](const HttpServer::Request &request) {
+        HttpServer::Response answer = reply;
+        answer.ending = request.path == "/v1/balance" ? Ending::NeverReply : Ending::Complete;
+        return answer;
+    };
+    auto api = client();
+    std::vector<QCoro::Task<Balance>> unanswered;
+    for (int i = 0; i < 12; ++i) {
+        unanswered.push_back(api.balance());
+    }
+    ASSERT_TRUE(await([&] { return server.count("/v1/balance") == 12; }));
+    EXPECT_EQ(resultOf(api.transcribe(recording("sound"))).text, u"Hello"_s);
+}
+
+TEST_F(ApiClientTest, AServerThatCannotProveItsNameIsNotSpokenTo)
+{
+    const QString folder = fake.files.temporaryFolder();
+    run(u"openssl"_s, {u"req"_s, u"-x509"_s, u"-newkey"_s, u"rsa:2048"_s, u"-nodes"_s, u"-keyout"_s,
+                       folder + u"/key.pem"_s, u"-out"_s, folder + u"/own.pem"_s, u"-subj"_s, u"/CN=127.0.0.1"_s,
+                       u"-addext"_s, u"subjectAltName=IP:127.0.0.1"_s});
+    ChildProcess tls(u"openssl"_s, {u"s_server"_s, u"-www"_s, u"-accept"_s, u"127.0.0.1:0"_s, u"-cert"_s,
+                                    folder + u"/own.pem"_s, u"-key"_s, folder + u"/key.pem"_s});
+    QString line;
+    while (!line.startsWith(u"ACCEPT ")) {
+        line = tls.readLine();
+    }
+    fake.secrets.items.insert(credentialItem, "known.device");
+    fake.preferences.setString(u"apiURL"_s, u"https://"_s + line.sliced(7));
+    expectError(errorOf(client().balance()), u"network"_s, networkError, 0);
 }
 
 TEST_F(ApiClientTest, ARequestWithoutProgressFails)
@@ -312,6 +416,9 @@ TEST_F(ApiClientTest, ARequestWithoutProgressFails)
     resultOf(client().balance()); // registered, so that the time-out is the one of the request below
     reply.ending = Ending::NeverReply;
     expectError(errorOf(client(50ms).balance()), u"network"_s, networkError, 0);
+    // It is no limit for the whole: this takes longer, and there is progress.
+    reply.ending = Ending::ByteByByte;
+    EXPECT_EQ(resultOf(client(1s).balance()).balance, 7);
     fake.preferences.setString(u"apiURL"_s, u"http://127.0.0.1:1"_s);
     expectError(errorOf(client().balance()), u"network"_s, networkError, 0);
 }
@@ -370,7 +477,13 @@ TEST_F(ApiClientTest, NothingIsReadOrSentWithoutConsentOrRecording)
     consent.grant();
     expectError(errorOf(client().transcribe(recording({}))), u"no_audio"_s,
                 u"Nothing was recorded. Check microphone access."_s, 0);
-    expectError(errorOf(client().transcribe(u"/nonexistent.m4a"_s)), u"no_audio"_s, u"Couldn't read the recording."_s,
-                0);
+    for (const QString &unreadable : {u"/nonexistent.m4a"_s, u"/proc/self/mem"_s}) {
+        expectError(errorOf(client().transcribe(unreadable)), u"no_audio"_s, u"Couldn't read the recording."_s, 0);
+    }
     EXPECT_TRUE(server.requests().isEmpty());
+
+    reply.body = R"({"balance":7})";
+    expectError(errorOf(client().transcribe(path)), u"no_audio"_s, u"Nothing was recorded. Check microphone access."_s,
+                0);
+    expectError(errorOf(client().transcribe(recording("sound"))), u"server_error"_s, somethingWrong, 200);
 }

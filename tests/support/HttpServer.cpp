@@ -2,6 +2,7 @@
 #include "support/HttpServer.h"
 
 #include <QTcpSocket>
+#include <QTimer>
 
 #include <algorithm>
 #include <memory>
@@ -70,6 +71,7 @@ void HttpServer::answer(QTcpSocket &socket, const Request &request)
     case Response::Ending::CloseWithoutReply:
         socket.abort();
         return;
+    case Response::Ending::ByteByByte:
     case Response::Ending::CutInBody:
     case Response::Ending::Complete:
         break;
@@ -79,6 +81,18 @@ void HttpServer::answer(QTcpSocket &socket, const Request &request)
     if (response.ending == Response::Ending::CutInBody) {
         socket.write(response.body.first(response.body.size() / 2));
         socket.disconnectFromHost();
+        return;
+    }
+    if (response.ending == Response::Ending::ByteByByte) {
+        auto *const ticks = new QTimer(&socket);
+        connect(ticks, &QTimer::timeout, &socket, [&socket, ticks, rest = response.body]() mutable {
+            socket.write(rest.first(1));
+            rest.remove(0, 1);
+            if (rest.isEmpty()) {
+                ticks->stop();
+            }
+        });
+        ticks->start(std::chrono::milliseconds(100));
         return;
     }
     socket.write(response.body);

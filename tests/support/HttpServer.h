@@ -21,10 +21,11 @@ public:
     };
 
     struct Response {
-        enum class Ending { Complete, CutInBody, CloseWithoutReply, NeverReply };
+        enum class Ending { Complete, ByteByByte, CutInBody, CloseWithoutReply, NeverReply };
 
         int status = 200;
         QByteArray body = {};
+        /// `ByteByByte`: the body takes 100 ms for each.
         Ending ending = Ending::Complete;
         /// Whole header lines, each with its line break.
         QByteArray headers = {};

@@ -134,8 +134,11 @@ QCoro::Task<Finding> backendFinding(Services &services)
         co_return Finding{subject, Level::Problem, u"no usable address"_s,
                           u"set apiURL in %1"_s.arg(IniPreferences::defaultPath())};
     }
-    QUrl url = *address;
-    url.setPath(url.path() + u"/v1/balance"_s);
+    if (address->scheme() != u"https" && address->scheme() != u"http") {
+        co_return Finding{subject, Level::Problem, address->toString() + u" begins neither with https:// nor http://"_s,
+                          u"set apiURL in %1"_s.arg(IniPreferences::defaultPath())};
+    }
+    const QUrl url = ApiClient::endpoint(*address, u"/v1/balance"_s);
     HttpTransport transport(backendPatience);
     HttpRequest request{"GET", url};
     const std::optional<HttpResponse> response = co_await transport.perform(std::move(request));

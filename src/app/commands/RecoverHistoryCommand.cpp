@@ -19,9 +19,9 @@ int RecoverHistoryCommand::run(const QString &path)
         return Output::fail(u"%1 can't be read."_s.arg(path), ExitStatus::failed);
     }
     if (store.saveError()) {
-        return Output::fail(u"The history can't be saved: %1"_s.arg(
-                                QString::fromStdString(store.saveError().message())),
-                            ExitStatus::failed);
+        return Output::fail(
+            u"The history can't be saved: %1"_s.arg(QString::fromStdString(store.saveError().message())),
+            ExitStatus::failed);
     }
     Output::print(u"%1 taken over.\n"_s.arg(*count == 1 ? u"1 entry"_s : u"%1 entries"_s.arg(*count)));
     return ExitStatus::done;

@@ -18,5 +18,5 @@ struct Services {
     LibsecretStore secrets;
     ResourceInfo packagedInfo{ResourceInfo::defaultFolder()};
     AIConsent consent{preferences, clock};
-    ApiClient client{preferences, packagedInfo, secrets, consent};
+    ApiClient client{preferences, packagedInfo, secrets, consent, clock};
 };
