@@ -19,7 +19,8 @@ target_compile_definitions(quillo_options INTERFACE
 target_compile_options(quillo_options INTERFACE -pthread)
 if(QUILLO_SANITIZERS)
     target_compile_options(quillo_options INTERFACE
-        -fsanitize=${QUILLO_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+        -fsanitize=${QUILLO_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all
+        -Wno-maybe-uninitialized) # which GCC takes what the sanitizers insert for
     target_link_options(quillo_options INTERFACE -fsanitize=${QUILLO_SANITIZERS})
 endif()
 
