@@ -3,6 +3,7 @@
 
 #include "platform/Preferences.h"
 
+#include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -54,6 +55,7 @@ void AIConsent::withdraw()
 }
 
 AIConsentError::AIConsentError()
-    : LocalizedError(u"Sending to OpenAI needs your permission first. Open Data & AI from the menu bar."_s)
+    : LocalizedError(QCoreApplication::translate(
+          "AIConsent", "Sending to OpenAI needs your permission first. Open Data & AI from the menu bar."))
 {
 }

@@ -92,10 +92,10 @@ QCoro::Task<Transcript> ApiClient::transcribe(QString filePath)
     const QFuture<std::optional<QByteArray>> reading = QtConcurrent::run(content, filePath);
     const std::optional<QByteArray> recording = co_await reading;
     if (!recording) {
-        throw ApiError(u"no_audio"_s, u"Couldn't read the recording."_s, 0);
+        throw ApiError(u"no_audio"_s, ApiError::tr("Couldn't read the recording."), 0);
     }
     if (recording->isEmpty()) {
-        throw ApiError(u"no_audio"_s, u"Nothing was recorded. Check microphone access."_s, 0);
+        throw ApiError(u"no_audio"_s, ApiError::tr("Nothing was recorded. Check microphone access."), 0);
     }
     const Multipart multipart(QFileInfo(filePath).fileName(), *recording);
     Call call{u"/v1/transcribe"_s, "POST", multipart.body(), multipart.contentType()};

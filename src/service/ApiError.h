@@ -3,10 +3,13 @@
 
 #include "platform/LocalizedError.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 /// The one error of the service client. `localizedDescription()` is its message for the user.
 class ApiError : public LocalizedError {
+    Q_DECLARE_TR_FUNCTIONS(ApiError)
+
 public:
     ApiError(QString code, QString message, int status)
         : LocalizedError(std::move(message)), m_code(std::move(code)), m_status(status)

@@ -13,15 +13,41 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+struct SpecialKey {
+    uint32_t keyCode;
+    /// As stored shortcuts have it.
+    const char *name;
+};
+
+constexpr std::array specialKeys{
+    SpecialKey{49, QT_TRANSLATE_NOOP("Shortcut", "Space")},
+    SpecialKey{36, QT_TRANSLATE_NOOP("Shortcut", "Return")},
+    SpecialKey{48, QT_TRANSLATE_NOOP("Shortcut", "Tab")},
+    SpecialKey{51, QT_TRANSLATE_NOOP("Shortcut", "Delete")},
+    SpecialKey{117, QT_TRANSLATE_NOOP("Shortcut", "⌦")},
+    SpecialKey{123, "←"},
+    SpecialKey{124, "→"},
+    SpecialKey{126, "↑"},
+    SpecialKey{125, "↓"},
+    SpecialKey{115, QT_TRANSLATE_NOOP("Shortcut", "Home")},
+    SpecialKey{119, QT_TRANSLATE_NOOP("Shortcut", "End")},
+    SpecialKey{116, QT_TRANSLATE_NOOP("Shortcut", "Page Up")},
+    SpecialKey{121, QT_TRANSLATE_NOOP("Shortcut", "Page Down")},
+    SpecialKey{76, QT_TRANSLATE_NOOP("Shortcut", "Enter")},
+};
+
 QString specialKeyName(uint32_t keyCode)
 {
-    static const std::map<uint32_t, QString> names{
-        {49, u"Space"_s}, {36, u"Return"_s},   {48, u"Tab"_s},        {51, u"Delete"_s}, {117, u"⌦"_s},
-        {123, u"←"_s},    {124, u"→"_s},       {126, u"↑"_s},         {125, u"↓"_s},     {115, u"Home"_s},
-        {119, u"End"_s},  {116, u"Page Up"_s}, {121, u"Page Down"_s}, {76, u"Enter"_s},
-    };
-    const auto found = names.find(keyCode);
-    return found == names.end() ? QString() : found->second;
+    const auto *const found = std::ranges::find(specialKeys, keyCode, &SpecialKey::keyCode);
+    return found == specialKeys.end() ? QString() : QString::fromUtf8(found->name);
+}
+
+/// What the person's keyboard says on the key with a stored name.
+QString keyLabel(const QString &name)
+{
+    const auto *const found =
+        std::ranges::find_if(specialKeys, [&](const SpecialKey &key) { return name == QString::fromUtf8(key.name); });
+    return found == specialKeys.end() ? name : Shortcut::tr(found->name);
 }
 
 QString functionKeyName(uint32_t keyCode)
@@ -65,13 +91,14 @@ QString keyEquivalent(const QString &key)
 const std::array<ModifierKeyInfo, 4> &modifierKeys()
 {
     static constexpr std::array<ModifierKeyInfo, 4> keys{
-        ModifierKeyInfo{ModifierKey::RightOption, u"rightOption", u"Right ⌥ Option", KeyCode::rightOption,
-                        EventFlag::rightOption},
-        ModifierKeyInfo{ModifierKey::RightCommand, u"rightCommand", u"Right ⌘ Command", KeyCode::rightCommand,
-                        EventFlag::rightCommand},
-        ModifierKeyInfo{ModifierKey::RightControl, u"rightControl", u"Right ⌃ Control", KeyCode::rightControl,
-                        EventFlag::rightControl},
-        ModifierKeyInfo{ModifierKey::Fn, u"fn", u"Fn (🌐)", KeyCode::fn, EventFlag::function},
+        ModifierKeyInfo{ModifierKey::RightOption, u"rightOption", QT_TRANSLATE_NOOP("Shortcut", "Right ⌥ Option"),
+                        KeyCode::rightOption, EventFlag::rightOption},
+        ModifierKeyInfo{ModifierKey::RightCommand, u"rightCommand", QT_TRANSLATE_NOOP("Shortcut", "Right ⌘ Command"),
+                        KeyCode::rightCommand, EventFlag::rightCommand},
+        ModifierKeyInfo{ModifierKey::RightControl, u"rightControl", QT_TRANSLATE_NOOP("Shortcut", "Right ⌃ Control"),
+                        KeyCode::rightControl, EventFlag::rightControl},
+        ModifierKeyInfo{ModifierKey::Fn, u"fn", QT_TRANSLATE_NOOP("Shortcut", "Fn (🌐)"), KeyCode::fn,
+                        EventFlag::function},
     };
     return keys;
 }
@@ -84,9 +111,10 @@ const ModifierKeyInfo &info(ModifierKey key)
 const std::array<TriggerModeInfo, 3> &triggerModes()
 {
     static constexpr std::array<TriggerModeInfo, 3> modes{
-        TriggerModeInfo{TriggerMode::Both, u"both", u"Hold to talk, or tap for hands-free"},
-        TriggerModeInfo{TriggerMode::Hold, u"hold", u"Hold to talk only"},
-        TriggerModeInfo{TriggerMode::Toggle, u"toggle", u"Tap to start and stop"},
+        TriggerModeInfo{TriggerMode::Both, u"both",
+                        QT_TRANSLATE_NOOP("Shortcut", "Hold to talk, or tap for hands-free")},
+        TriggerModeInfo{TriggerMode::Hold, u"hold", QT_TRANSLATE_NOOP("Shortcut", "Hold to talk only")},
+        TriggerModeInfo{TriggerMode::Toggle, u"toggle", QT_TRANSLATE_NOOP("Shortcut", "Tap to start and stop")},
     };
     return modes;
 }
@@ -94,6 +122,16 @@ const std::array<TriggerModeInfo, 3> &triggerModes()
 const TriggerModeInfo &info(TriggerMode mode)
 {
     return *std::ranges::find(triggerModes(), mode, &TriggerModeInfo::mode);
+}
+
+QString ModifierKeyInfo::label() const
+{
+    return Shortcut::tr(sourceLabel);
+}
+
+QString TriggerModeInfo::label() const
+{
+    return Shortcut::tr(sourceLabel);
 }
 
 Shortcut Shortcut::combo(uint32_t keyCode, uint32_t modifiers, const QString &key)
@@ -129,15 +167,17 @@ std::variant<Shortcut, Shortcut::Rejection> Shortcut::recorded(const KeyEvent &e
 QString Shortcut::label() const
 {
     if (const ModifierKey *key = asModifier()) {
-        return info(*key).label.toString();
+        return info(*key).label();
     }
     const Combo &combo = *asCombo();
     QString prefix;
-    prefix += (combo.modifiers & HotKeyModifier::control) != 0 ? u"⌃" : u"";
-    prefix += (combo.modifiers & HotKeyModifier::option) != 0 ? u"⌥" : u"";
-    prefix += (combo.modifiers & HotKeyModifier::shift) != 0 ? u"⇧" : u"";
-    prefix += (combo.modifiers & HotKeyModifier::command) != 0 ? u"⌘" : u"";
-    return prefix.isEmpty() ? combo.key : prefix + u' ' + combo.key;
+    prefix += (combo.modifiers & HotKeyModifier::control) != 0 ? tr("⌃") : QString();
+    prefix += (combo.modifiers & HotKeyModifier::option) != 0 ? tr("⌥") : QString();
+    prefix += (combo.modifiers & HotKeyModifier::shift) != 0 ? tr("⇧") : QString();
+    prefix += (combo.modifiers & HotKeyModifier::command) != 0 ? tr("⌘") : QString();
+    const QString key = keyLabel(combo.key);
+    //: %1: the modifier keys of a shortcut, %2: its key.
+    return prefix.isEmpty() ? key : tr("%1 %2").arg(prefix, key);
 }
 
 std::optional<Shortcut::MenuShortcut> Shortcut::menuShortcut() const
@@ -154,9 +194,9 @@ QString message(Shortcut::Rejection rejection)
 {
     switch (rejection) {
     case Shortcut::Rejection::EscapeReserved:
-        return u"Esc is used to cancel a dictation."_s;
+        return Shortcut::tr("Esc is used to cancel a dictation.");
     case Shortcut::Rejection::NeedsModifier:
         break;
     }
-    return u"Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn't block typing."_s;
+    return Shortcut::tr("Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn't block typing.");
 }

@@ -4,6 +4,7 @@
 #include "platform/MenuItem.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 
 #include <array>
@@ -21,10 +22,13 @@ struct ModifierKeyInfo {
     ModifierKey key;
     /// Name in stored shortcuts.
     QStringView rawValue;
-    QStringView label;
+    /// Display text as the sources have it.
+    const char *sourceLabel;
     /// Virtual key code, and the event-flag bit that is set while this very key is held (KeyCodes.h).
     uint16_t keyCode;
     uint32_t flag;
+
+    QString label() const;
 };
 
 /// All modifier keys, in the order in which they are offered.
@@ -38,7 +42,10 @@ struct TriggerModeInfo {
     TriggerMode mode;
     /// Name in the preferences.
     QStringView rawValue;
-    QStringView label;
+    /// Display text as the sources have it.
+    const char *sourceLabel;
+
+    QString label() const;
 };
 
 const std::array<TriggerModeInfo, 3> &triggerModes();
@@ -50,6 +57,8 @@ enum class ShortcutEvent { Pressed, Released, Interrupted };
 
 /// A key combination or a single modifier key.
 class Shortcut {
+    Q_DECLARE_TR_FUNCTIONS(Shortcut)
+
 public:
     struct Combo {
         /// Virtual key code of the physical key.
@@ -77,7 +86,7 @@ public:
     static std::optional<Shortcut> fromJson(const QByteArray &json);
     QByteArray toJson() const;
 
-    /// Display text, "⌃⌥ Space".
+    /// Display text: "⌃⌥ Space", or what the person's keyboard says for it.
     QString label() const;
 
     std::optional<MenuShortcut> menuShortcut() const;

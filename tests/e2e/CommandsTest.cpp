@@ -117,7 +117,7 @@ TEST(CommandsTest, TheRunningProgramDoesWhatTheyName)
     EXPECT_EQ(desktop.command({u"settings"_s}), done);
     EXPECT_TRUE(await([&] { return !desktop.windowNamed(u"Quillo Settings"_s).isEmpty(); }));
     EXPECT_TRUE(
-        desktop.command({u"status"_s}).output.startsWith(u"Hold or tap ⌃⌥ Space to dictate\nState:         idle\n"));
+        desktop.command({u"status"_s}).output.startsWith(u"Hold or tap Ctrl+Alt+Space to dictate\nState:         idle\n"));
 
     EXPECT_EQ(desktop.command({u"quit"_s}), done);
     EXPECT_EQ(desktop.quillo().wait(), 0);
@@ -186,9 +186,9 @@ TEST(CommandsTest, AShortcutThatAnotherProgramHoldsIsNamedInStatusAndMenu)
     }
     Panel panel(Panel::Host::There, desktop.session().busAddress());
     desktop.start();
-    const QString dictation = u"⌃⌥ Space is already used by another app. Pick a different shortcut."_s;
-    const QString group = u"⌃⌥ G is already in use. Pick a different shortcut."_s;
-    const QString history = u"⌃⌥ H is already in use. Pick a different shortcut."_s;
+    const QString dictation = u"Ctrl+Alt+Space is already used by another app. Pick a different shortcut."_s;
+    const QString group = u"Ctrl+Alt+G is already in use. Pick a different shortcut."_s;
+    const QString history = u"Ctrl+Alt+H is already in use. Pick a different shortcut."_s;
     const QJsonObject status = desktop.status();
     EXPECT_EQ(status[u"shortcutError"_s], dictation);
     EXPECT_EQ(status[u"groupShortcutError"_s], group);

@@ -35,7 +35,7 @@ TEST(DoctorTest, FindsEverythingOnAWholeDesktop)
     const std::string idle = examination(desktop, 0);
     EXPECT_THAT(idle, Not(HasSubstr("MISSING")));
     for (const char *line :
-         {"ok Display server: X11", "ok Hot key: ⌃⌥ Space is free", "ok Session bus: there; Quillo isn't running",
+         {"ok Display server: X11", "ok Hot key: Ctrl+Alt+Space is free", "ok Session bus: there; Quillo isn't running",
           "ok Sound server: ", "ok Microphone: mic", "note Microphone level: silent", "ok Keyring: usable",
           "ok Preferences: ", "ok Consent: given", "ok Backend: ", "ok Window manager: there",
           "note Tray: none on this desktop", "\nDictation can work here.\n"}) {
@@ -50,10 +50,10 @@ TEST(DoctorTest, SaysWhatKeepsDictationFromWorking)
     Desktop desktop({.hasEditor = false, .isStarted = false});
     ASSERT_TRUE(desktop.user().grabsKey(KEY_SPACE, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1));
     const std::string taken = examination(desktop, 1);
-    EXPECT_THAT(taken, HasSubstr("MISSING Hot key: ⌃⌥ Space is taken by another program\n→ choose another one"));
+    EXPECT_THAT(taken, HasSubstr("MISSING Hot key: Ctrl+Alt+Space is taken by another program\n→ choose another one"));
     EXPECT_THAT(taken, HasSubstr("\nDictation can't work here yet.\n"));
     desktop.start(); // the running program knows it as well
-    EXPECT_THAT(examination(desktop, 1), HasSubstr("MISSING Hot key: ⌃⌥ Space is already used by another app. "));
+    EXPECT_THAT(examination(desktop, 1), HasSubstr("MISSING Hot key: Ctrl+Alt+Space is already used by another app. "));
     EXPECT_EQ(desktop.command({u"quit"_s}).status, 0);
 
     QFile preferences(desktop.preferencesFile());
@@ -89,7 +89,7 @@ TEST(DoctorTest, PreferencesThatCannotBeReadCountAsNotSet)
     preferences.close();
     const std::string damaged = examination(desktop, 0);
     EXPECT_THAT(damaged, HasSubstr("Quillo.conf is damaged: what can't be read counts as not set\n→ mend the file"));
-    EXPECT_THAT(damaged, HasSubstr("ok Hot key: ⌃⌥ Space is free"));
+    EXPECT_THAT(damaged, HasSubstr("ok Hot key: Ctrl+Alt+Space is free"));
     desktop.start();
-    EXPECT_EQ(desktop.status()[u"status"_s], u"Hold or tap ⌃⌥ Space to dictate"_s);
+    EXPECT_EQ(desktop.status()[u"status"_s], u"Hold or tap Ctrl+Alt+Space to dictate"_s);
 }

@@ -20,7 +20,7 @@ template <typename Table> QStringList labels(const Table &table)
     QStringList texts;
     texts.reserve(static_cast<qsizetype>(table.size()));
     for (const auto &row : table) {
-        texts.append(row.label.toString());
+        texts.append(row.label());
     }
     return texts;
 }

@@ -14,6 +14,7 @@
 #include "app/start/Composition.h"
 #include "app/start/DisplayChoice.h"
 #include "app/start/TerminationSignals.h"
+#include "app/start/speakPreferredLanguage.h"
 #include "platform/Platform.h"
 
 #include <QApplication>
@@ -21,6 +22,9 @@
 #include <QQuickWindow>
 
 using namespace Qt::StringLiterals;
+
+// Called for every application object that the program makes.
+Q_COREAPP_STARTUP_FUNCTION(speakPreferredLanguage)
 
 namespace {
 
@@ -88,6 +92,15 @@ int doctor(Arguments arguments)
     return DoctorCommand::run();
 }
 
+CommandLine::Request parse(const QStringList &words, Arguments arguments)
+{
+    if (words.isEmpty()) {
+        return CommandLine::Start{};
+    }
+    const QCoreApplication application(arguments.count, arguments.values); // for the texts
+    return CommandLine::parse(words, QCoreApplication::applicationVersion());
+}
+
 template <typename... Cases> struct Overloaded : Cases... {
     using Cases::operator()...;
 };
@@ -133,5 +146,5 @@ int QuilloApp::run(int argc, char *argv[])
                               return Output::fail(mistake.text + u" See: quillo --help"_s, ExitStatus::usage);
                           },
                       },
-                      CommandLine::parse(words, QCoreApplication::applicationVersion()));
+                      parse(words, own));
 }

@@ -83,7 +83,7 @@ Rectangle {
 
         Paragraph {
             id: title
-            text: view.model.isReview ? "Data & AI" : "Before we start"
+            text: view.model.isReview ? qsTr("Data & AI") : qsTr("Before we start")
             textFormat: Text.PlainText
             font.pixelSize: 22
             font.weight: Font.DemiBold
@@ -91,18 +91,18 @@ Rectangle {
         }
 
         Paragraph {
-            text: "To turn your speech into text, this app sends your voice recording through our server to "
-                  + "<b>OpenAI</b>, a third-party AI service in the United States."
+            text: qsTr("To turn your speech into text, this app sends your voice recording through our server to "
+                       + "<b>OpenAI</b>, a third-party AI service in the United States.")
             textFormat: Text.StyledText
             font.pixelSize: 14
             Accessible.name: text.replace(/<.?b>/g, "")
         }
 
         Paragraph {
-            text: "Our server passes your recording on without storing it. It keeps only your token balance and "
-                  + "purchases, under a random ID created on this Mac — no name, email, account or location. Your "
-                  + "recording is deleted once it has been transcribed, and your transcripts are stored only on this "
-                  + "Mac."
+            text: qsTr("Our server passes your recording on without storing it. It keeps only your token balance "
+                       + "and purchases, under a random ID created on this Mac — no name, email, account or "
+                       + "location. Your recording is deleted once it has been transcribed, and your transcripts are "
+                       + "stored only on this Mac.")
             textFormat: Text.PlainText
             color: SystemColors.secondary
         }
@@ -111,11 +111,11 @@ Rectangle {
             spacing: 6
 
             PageLink {
-                text: "What OpenAI does with it ↗"
+                text: qsTr("What OpenAI does with it ↗")
                 address: view.model.openAIPrivacyURL
             }
             PageLink {
-                text: "Our privacy policy ↗"
+                text: qsTr("Our privacy policy ↗")
                 address: view.model.privacyPolicyURL
             }
         }
@@ -128,7 +128,7 @@ Rectangle {
 
         Paragraph {
             visible: view.showsAgreement
-            text: "You agreed on " + view.model.agreement + "."
+            text: qsTr("You agreed on %1.").arg(view.model.agreement)
             textFormat: Text.PlainText
             font.pixelSize: 12
             color: SystemColors.secondary
@@ -140,22 +140,23 @@ Rectangle {
 
             PushButton {
                 id: no
-                text: view.showsAgreement ? "Withdraw consent" : view.model.isReview ? "Close" : "Not now"
+                text: view.showsAgreement ? qsTr("Withdraw consent") : view.model.isReview ? qsTr("Close")
+                                                                                         : qsTr("Not now")
                 isDestructive: view.showsAgreement
                 onClicked: view.showsAgreement ? view.model.withdraw() : view.model.keep(false)
             }
             PushButton {
                 id: yes
                 anchors.right: parent.right
-                text: view.showsAgreement ? "Keep it on" : "I agree — send to OpenAI"
+                text: view.showsAgreement ? qsTr("Keep it on") : qsTr("I agree — send to OpenAI")
                 isDefault: true
                 onClicked: view.answer(true, false)
             }
         }
 
         Paragraph {
-            text: "You can withdraw this at any time from the menu bar under Data & AI. Without it, dictation stays "
-                  + "off."
+            text: qsTr("You can withdraw this at any time from the menu bar under Data & AI. Without it, dictation "
+                       + "stays off.")
             textFormat: Text.PlainText
             font.pixelSize: 11
             color: SystemColors.secondary

@@ -19,15 +19,15 @@ Column {
 
         MetaLabel {
             anchors.verticalCenter: editButton.verticalCenter
-            label: "Current group"
+            label: qsTr("Current group")
         }
         PillButtonStyle {
             id: editButton
 
             anchors { right: parent.right; bottom: parent.bottom }
-            text: "Edit"
+            text: qsTr("Edit")
             onClicked: carousel.edit()
-            Accessible.name: "Edit groups"
+            Accessible.name: qsTr("Edit groups")
         }
     }
 
@@ -48,7 +48,7 @@ Column {
             activeFocusOnTab: true
 
             Accessible.role: Accessible.PageTabList
-            Accessible.name: "Current group"
+            Accessible.name: qsTr("Current group")
 
             Keys.onLeftPressed: carousel.groups.activate(carousel.groups.activeRow - 1)
             Keys.onRightPressed: carousel.groups.activate(carousel.groups.activeRow + 1)

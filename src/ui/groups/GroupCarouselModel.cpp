@@ -5,8 +5,6 @@
 
 #include <algorithm>
 
-using namespace Qt::StringLiterals;
-
 GroupCarouselModel::GroupCarouselModel(GroupStore &groups) : m_groups(groups), m_count(1 + int(groups.groups().size()))
 {
     connect(&groups, &GroupStore::groupsChanged, this, [this] {
@@ -28,10 +26,10 @@ QVariant GroupCarouselModel::data(const QModelIndex &index, int role) const
         return {};
     }
     if (index.row() == 0) {
-        return u"All entries"_s;
+        return tr("All entries");
     }
     const QString name = m_groups.groups().value(index.row() - 1).name;
-    return name.isEmpty() ? u"Untitled"_s : name;
+    return name.isEmpty() ? tr("Untitled") : name;
 }
 
 QHash<int, QByteArray> GroupCarouselModel::roleNames() const
@@ -50,7 +48,7 @@ int GroupCarouselModel::activeRow() const
 QString GroupCarouselModel::activeHint() const
 {
     const auto active = m_groups.group(m_groups.activeId());
-    return active ? u"Dictations go into %1 while it's selected."_s.arg(active->name) : QString();
+    return active ? tr("Dictations go into %1 while it's selected.").arg(active->name) : QString();
 }
 
 void GroupCarouselModel::activate(int row)

@@ -63,7 +63,7 @@ T.Popup {
         Text {
             id: title
 
-            text: "Groups"
+            text: qsTr("Groups")
             font: Paper.black(28)
             color: Paper.primary
             Accessible.role: Accessible.Heading
@@ -73,7 +73,7 @@ T.Popup {
             id: explanation
 
             anchors { top: title.bottom; topMargin: 14; left: parent.left; right: parent.right }
-            text: "Dictations go into the selected group. Deleting a group keeps its entries under All entries."
+            text: qsTr("Dictations go into the selected group. Deleting a group keeps its entries under All entries.")
             wrapMode: Text.Wrap
             font.pixelSize: 12
             color: Paper.primary
@@ -99,7 +99,7 @@ T.Popup {
                 anchors { left: parent.left; right: add.left; rightMargin: 8; top: parent.top; bottom: parent.bottom }
                 focus: true
                 isBordered: true
-                placeholderText: "New group"
+                placeholderText: qsTr("New group")
                 text: sheet.groups.newName
                 onTextEdited: sheet.groups.newName = text
                 onAccepted: sheet.groups.add()
@@ -108,7 +108,7 @@ T.Popup {
                 id: add
 
                 anchors.right: parent.right
-                text: "Add"
+                text: qsTr("Add")
                 enabled: sheet.groups.canAdd
                 onClicked: sheet.groups.add()
             }
@@ -117,7 +117,7 @@ T.Popup {
             id: done
 
             anchors { right: parent.right; bottom: parent.bottom }
-            text: "Done"
+            text: qsTr("Done")
             onClicked: sheet.dismiss()
         }
     }

@@ -32,7 +32,7 @@ Rectangle {
         cacheBuffer: count * rowHeight
         boundsBehavior: Flickable.StopAtBounds
         Accessible.role: Accessible.List
-        Accessible.name: "Groups"
+        Accessible.name: qsTr("Groups")
 
         T.ScrollBar.vertical: PaperScrollBar {}
 

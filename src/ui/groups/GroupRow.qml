@@ -67,14 +67,14 @@ Rectangle {
         id: field
 
         anchors { left: grip.right; leftMargin: 2; right: trash.left; verticalCenter: parent.verticalCenter }
-        placeholderText: "Name"
+        placeholderText: qsTr("Name")
         Component.onCompleted: row.show()
         onActiveFocusChanged: {
             if (activeFocus)
                 row.reached();
         }
         onTextEdited: row.rename(text)
-        Accessible.name: "Name of the group"
+        Accessible.name: qsTr("Name of the group")
         Keys.onPressed: event => {
             event.accepted = event.modifiers & Qt.AltModifier && (event.key === Qt.Key_Up || event.key === Qt.Key_Down);
             if (event.accepted)
@@ -94,7 +94,7 @@ Rectangle {
             if (activeFocus)
                 row.reached();
         }
-        Accessible.name: "Delete group"
+        Accessible.name: qsTr("Delete group")
         Accessible.description: row.name
 
         contentItem: Image {
@@ -105,6 +105,6 @@ Rectangle {
         background: Item {
             FocusRing { visible: trash.visualFocus; anchors.margins: 0; corner: 2; ringColor: Paper.accent }
         }
-        Tip { visible: trash.hovered; text: "Delete group" }
+        Tip { visible: trash.hovered; text: qsTr("Delete group") }
     }
 }

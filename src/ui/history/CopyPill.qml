@@ -9,7 +9,7 @@ KeyButton {
     property bool isCopied: false
     property color ink: isCopied ? Paper.accent : Paper.primary
 
-    text: isCopied ? "COPIED" : "COPY"
+    text: isCopied ? qsTr("COPIED") : qsTr("COPY")
     leftPadding: 12
     rightPadding: 12
     topPadding: 6
@@ -18,7 +18,7 @@ KeyButton {
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     font: Paper.sansMedium(10, 1.5)
     opacity: down ? 0.7 : 1
-    Accessible.name: isCopied ? "Copied" : "Copy"
+    Accessible.name: isCopied ? qsTr("Copied") : qsTr("Copy")
 
     Behavior on ink { ColorAnimation { duration: 300; easing.type: Easing.InOutQuad } }
 

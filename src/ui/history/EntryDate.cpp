@@ -1,18 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "ui/history/EntryDate.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr Clock::Instant distantPast = std::chrono::sys_days(std::chrono::year(1) / 1 / 1);
 
-QString counted(int64_t count, QStringView unit)
-{
-    return u"%1 %2%3"_s.arg(count).arg(unit, count == 1 ? u"" : u"s");
-}
+struct Age {
+    Q_DECLARE_TR_FUNCTIONS(Age)
+
+public:
+    //: Part of how long ago something was.
+    static QString days(int count) { return count == 1 ? tr("1 day") : tr("%n days", nullptr, count); }
+    //: Part of how long ago something was.
+    static QString hours(int count) { return count == 1 ? tr("1 hr") : tr("%n hrs", nullptr, count); }
+};
 
 } // namespace
 
@@ -27,14 +31,17 @@ Clock::Instant EntryDate::parse(const QString &timestamp)
 QString EntryDate::relativeTime(Clock::Instant date, Clock::Instant now)
 {
     const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(now - date).count();
-    const auto days = seconds / 86400;
-    const auto hours = seconds % 86400 / 3600;
-    const auto minutes = seconds / 60;
+    const int days = int(seconds / 86400);
+    const int hours = int(seconds % 86400 / 3600);
+    const int minutes = int(seconds / 60);
     if (days < 1 && hours < 1) {
-        return minutes < 1 ? u"just now"_s : u"%1 min ago"_s.arg(minutes);
+        return minutes < 1 ? Age::tr("just now") : Age::tr("%n min ago", nullptr, minutes);
     }
     if (days < 1) {
-        return counted(hours, u"hr") + u" ago"_s;
+        //: %1: "3 hrs" or "2 days".
+        return Age::tr("%1 ago").arg(Age::hours(hours));
     }
-    return counted(days, u"day") + (hours >= 1 ? u", "_s + counted(hours, u"hr") : QString()) + u" ago"_s;
+    return hours < 1 ? Age::tr("%1 ago").arg(Age::days(days))
+                     //: %1: "2 days", %2: "3 hrs".
+                     : Age::tr("%1, %2 ago").arg(Age::days(days), Age::hours(hours));
 }

@@ -48,7 +48,7 @@ Item {
         keyNavigationEnabled: true
         activeFocusOnTab: true
         Accessible.role: Accessible.List
-        Accessible.name: "Entries"
+        Accessible.name: qsTr("Entries")
 
         T.ScrollBar.vertical: PaperScrollBar {}
 
@@ -119,8 +119,8 @@ Item {
         width: parent.width - 48
         spacing: 12
 
-        EmptyTitle { text: "No matches." }
-        EmptyHint { text: "Try a different search." }
+        EmptyTitle { text: qsTr("No matches.") }
+        EmptyHint { text: qsTr("Try a different search.") }
     }
 
     EntryMenuLoader {

@@ -26,13 +26,13 @@ PaperMenu {
     }
 
     PaperMenuItem {
-        text: "Copy"
+        text: qsTr("Copy")
         onTriggered: entryMenu.history.copy(entryMenu.entryId)
     }
     PaperMenu {
         id: moveMenu
 
-        title: "Move to Group"
+        title: qsTr("Move to Group")
 
         Instantiator {
             model: entryMenu.targets
@@ -54,7 +54,7 @@ PaperMenu {
         contentItem: Rectangle { implicitHeight: 1; color: Paper.divider }
     }
     PaperMenuItem {
-        text: "Delete"
+        text: qsTr("Delete")
         isDestructive: true
         onTriggered: entryMenu.history.remove(entryMenu.entryId)
     }

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 HistoryModel::HistoryModel(TranscriptionStore &store, GroupStore &groups, Pasteboard &pasteboard, Clock &clock)
@@ -28,7 +27,7 @@ void HistoryModel::setSearch(const QString &search)
 
 QString HistoryModel::countText() const
 {
-    return u"%1 %2"_s.arg(m_rows.total()).arg(m_rows.total() == 1 ? u"entry" : u"entries");
+    return m_rows.total() == 1 ? tr("1 entry") : tr("%n entries", nullptr, m_rows.total());
 }
 
 void HistoryModel::setLive(bool isLive)
@@ -78,7 +77,7 @@ QList<MoveTarget> HistoryModel::moveTargets(const QString &id) const
     if (moved == nullptr) {
         return {};
     }
-    QList<MoveTarget> targets{{u"All entries"_s, {}, moved->categoryId.has_value()}};
+    QList<MoveTarget> targets{{tr("All entries"), {}, moved->categoryId.has_value()}};
     for (const DictationGroup &group : m_groups.groups()) {
         targets.append({group.name, group.id, moved->categoryId != group.id});
     }

@@ -42,7 +42,7 @@ Item {
 
                 x: 24
                 y: 30
-                text: "History"
+                text: qsTr("History")
                 font: Paper.black(44)
                 color: Paper.primary
                 Accessible.role: Accessible.Heading
@@ -77,10 +77,10 @@ Item {
         width: parent.width - 48
         spacing: 12
 
-        EmptyTitle { text: "No entries yet." }
+        EmptyTitle { text: qsTr("No entries yet.") }
         EmptyHint {
             text: view.carousel.activeHint !== "" ? view.carousel.activeHint
-                                                  : "Dictate with " + view.model.shortcutLabel + " to see it here."
+                                                  : qsTr("Dictate with %1 to see it here.").arg(view.model.shortcutLabel)
         }
     }
 

@@ -32,7 +32,7 @@ Item {
             color: Paper.primary
             selectionColor: Paper.accent
             selectedTextColor: Paper.background
-            placeholderText: "Search transcriptions"
+            placeholderText: qsTr("Search transcriptions")
             placeholderTextColor: Paper.secondary
             verticalAlignment: TextInput.AlignVCenter
             selectByMouse: true
@@ -56,7 +56,7 @@ Item {
             opacity: enabled ? 1 : 0
             visible: opacity > 0
             focusPolicy: Qt.TabFocus
-            Accessible.name: "Clear search"
+            Accessible.name: qsTr("Clear search")
             onClicked: {
                 field.clear();
                 field.forceActiveFocus();

@@ -20,18 +20,21 @@ Item {
     readonly property bool isProblem: isOutOfTokens || model.isError
 
     Accessible.role: Accessible.Notification
-    Accessible.name: phaseText() + (isGroup ? model.text : "")
+    Accessible.name: isGroup ? groupText.join(model.text) : phaseText()
+
+    // What stands before and behind the group's name.
+    readonly property list<string> groupText: qsTr("Dictating into %1").split("%1")
 
     function phaseText() {
         switch (model.kind) {
         case HUDModel.Recording:
-            return model.handsFree ? "Listening — press again to stop" : "Listening";
+            return model.handsFree ? qsTr("Listening — press again to stop") : qsTr("Listening");
         case HUDModel.Transcribing:
-            return "Transcribing…";
+            return qsTr("Transcribing…");
         case HUDModel.OutOfTokens:
-            return model.freeGrantMissed ? "No free tokens were left today" : "You're out of tokens";
+            return model.freeGrantMissed ? qsTr("No free tokens were left today") : qsTr("You're out of tokens");
         case HUDModel.Group:
-            return "Dictating into ";
+            return groupText[0];
         default:
             return model.text;
         }
@@ -110,6 +113,14 @@ Item {
                     color: "white"
                     font { family: view.family; pixelSize: 12; weight: Font.Bold }
                 }
+
+                Text {
+                    visible: view.isGroup && text !== ""
+                    text: view.groupText[1] ?? ""
+                    textFormat: Text.PlainText
+                    color: "white"
+                    font { family: view.family; pixelSize: 12; weight: Font.Medium }
+                }
             }
 
             RoundedRectangle {
@@ -130,7 +141,7 @@ Item {
                     id: buyLabel
 
                     anchors.centerIn: parent
-                    text: "Buy…"
+                    text: qsTr("Buy…")
                     color: "white"
                     font { family: view.family; pixelSize: 12; weight: Font.Medium }
                 }
