@@ -34,7 +34,7 @@ void AudioRecorder::start(std::function<void()> onEnded)
     if (!recorder->record()) {
         recorder.reset();
         discard(path);
-        throw ApiError(u"no_audio"_s, u"Couldn't start the microphone."_s, 0);
+        throw ApiError(u"no_audio"_s, ApiError::tr("Couldn't start the microphone."), 0);
     }
     m_recorder = std::move(recorder);
 }

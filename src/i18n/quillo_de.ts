@@ -78,6 +78,121 @@
         <source>Something went wrong. Please try again.</source>
         <translation>Etwas ist schiefgegangen. Bitte versuchen Sie es noch einmal.</translation>
     </message>
+    <message>
+        <source>Couldn&apos;t start the microphone.</source>
+        <translation>Das Mikrofon lässt sich nicht starten.</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Hold the dictation shortcut</source>
+        <translation>Das Diktat-Tastenkürzel halten</translation>
+    </message>
+    <message>
+        <source>Let go of it</source>
+        <translation>Es loslassen</translation>
+    </message>
+    <message>
+        <source>Start dictating, or finish and paste</source>
+        <translation>Diktat beginnen, oder beenden und einfügen</translation>
+    </message>
+    <message>
+        <source>Drop the recording</source>
+        <translation>Die Aufnahme verwerfen</translation>
+    </message>
+    <message>
+        <source>Show the history</source>
+        <translation>Den Verlauf anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the history with the group editor</source>
+        <translation>Den Verlauf mit den Gruppen anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the settings</source>
+        <translation>Die Einstellungen anzeigen</translation>
+    </message>
+    <message>
+        <source>Make the next group the current one</source>
+        <translation>Zur nächsten Gruppe wechseln</translation>
+    </message>
+    <message>
+        <source>Open the page where tokens are bought</source>
+        <translation>Die Seite zum Kauf von Tokens öffnen</translation>
+    </message>
+    <message>
+        <source>Print what the program is doing</source>
+        <translation>Ausgeben, was das Programm gerade tut</translation>
+    </message>
+    <message>
+        <source>End the program</source>
+        <translation>Das Programm beenden</translation>
+    </message>
+    <message>
+        <source>Print the text of a recording; - reads standard input</source>
+        <translation>Den Text einer Aufnahme ausgeben; - liest die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>Print what this desktop offers for dictation, and what is missing</source>
+        <translation>Ausgeben, was dieser Desktop für das Diktat bietet und was fehlt</translation>
+    </message>
+    <message>
+        <source>Usage: quillo [COMMAND]
+
+Without a command Quillo starts, or shows its history if it runs already.
+Hold the dictation shortcut, speak, let go: the words appear in the program in front.
+
+Commands:
+</source>
+        <translation>Aufruf: quillo [BEFEHL]
+
+Ohne Befehl startet Quillo oder zeigt seinen Verlauf, wenn es schon läuft.
+Tastenkürzel halten, sprechen, loslassen: Die Wörter erscheinen im Programm im Vordergrund.
+
+Befehle:
+</translation>
+    </message>
+    <message>
+        <source>
+Options:
+  -h, --help        Print this
+  -v, --version     Print the version
+
+Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t running.
+</source>
+        <translation>
+Optionen:
+  -h, --help        Diese Hilfe ausgeben
+  -v, --version     Die Version ausgeben
+
+Rückgabewert: 0 erledigt, 1 misslungen, 2 Befehlszeile falsch, 3 Quillo läuft nicht.
+</translation>
+    </message>
+    <message>
+        <source>--json belongs to the command status.</source>
+        <translation>--json gehört zum Befehl status.</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;.</source>
+        <translation>Es gibt keinen Befehl „%1“.</translation>
+    </message>
+    <message>
+        <source>transcribe takes one file.</source>
+        <translation>transcribe braucht eine Datei.</translation>
+    </message>
+    <message>
+        <source>%1 takes no argument.</source>
+        <translation>%1 hat kein Argument.</translation>
+    </message>
+    <message>
+        <source>Take over what can be read in a damaged history</source>
+        <translation>Übernehmen, was in einem beschädigten Verlauf lesbar ist</translation>
+    </message>
+    <message>
+        <source>--recover belongs to the command history.</source>
+        <translation>--recover gehört zum Befehl history.</translation>
+    </message>
 </context>
 <context>
     <name>CopyPill</name>
@@ -154,6 +269,25 @@
     </message>
 </context>
 <context>
+    <name>Display</name>
+    <message>
+        <source>QUILLO_PLATFORM is &quot;%1&quot;; it can be x11 or wayland.</source>
+        <translation>QUILLO_PLATFORM ist „%1“; möglich sind x11 und wayland.</translation>
+    </message>
+    <message>
+        <source>Wayland sessions are not supported yet. Log in to an X11 session, or try QUILLO_PLATFORM=x11, which reaches only the programs that run through Xwayland.</source>
+        <translation>Wayland-Sitzungen werden noch nicht unterstützt. Melden Sie sich in einer X11-Sitzung an, oder versuchen Sie QUILLO_PLATFORM=x11, das nur X11-Programme erreicht.</translation>
+    </message>
+    <message>
+        <source>There is no X11 display (DISPLAY is not set).</source>
+        <translation>Es gibt keine X11-Anzeige (DISPLAY ist nicht gesetzt).</translation>
+    </message>
+    <message>
+        <source>The X11 display %1 can&apos;t be reached.</source>
+        <translation>Die X11-Anzeige %1 ist nicht erreichbar.</translation>
+    </message>
+</context>
+<context>
     <name>EntryList</name>
     <message>
         <source>Entries</source>
@@ -181,6 +315,389 @@
     <message>
         <source>Delete</source>
         <translation>Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>Finding</name>
+    <message>
+        <source>there is no X server at $DISPLAY</source>
+        <translation>unter $DISPLAY ist kein X-Server</translation>
+    </message>
+    <message>
+        <source>the X server has no keyboard extension (XKB)</source>
+        <translation>der X-Server hat keine Tastaturerweiterung (XKB)</translation>
+    </message>
+    <message>
+        <source>the X server has no XFIXES extension</source>
+        <translation>der X-Server hat keine Erweiterung XFIXES</translation>
+    </message>
+    <message>
+        <source>Raw keys</source>
+        <translation>Einzeltasten</translation>
+    </message>
+    <message>
+        <source>no XInput 2.2: the dictation shortcut is a single key</source>
+        <translation>kein XInput 2.2: Das Diktat-Kürzel ist eine einzelne Taste</translation>
+    </message>
+    <message>
+        <source>choose a key combination in the settings</source>
+        <translation>in den Einstellungen eine Tastenkombination wählen</translation>
+    </message>
+    <message>
+        <source>no XInput 2.2: a single key can&apos;t be a shortcut</source>
+        <translation>kein XInput 2.2: Eine einzelne Taste kann kein Kürzel sein</translation>
+    </message>
+    <message>
+        <source>use a key combination</source>
+        <translation>eine Tastenkombination verwenden</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Tastatur</translation>
+    </message>
+    <message>
+        <source>no XKB</source>
+        <translation>kein XKB</translation>
+    </message>
+    <message>
+        <source>enable the X server&apos;s XKEYBOARD extension</source>
+        <translation>die Erweiterung XKEYBOARD des X-Servers einschalten</translation>
+    </message>
+    <message>
+        <source>Key posting</source>
+        <translation>Tastensenden</translation>
+    </message>
+    <message>
+        <source>no XTEST: text is copied, not pasted</source>
+        <translation>kein XTEST: Text wird kopiert, nicht eingefügt</translation>
+    </message>
+    <message>
+        <source>paste with Ctrl+V, or enable the X server&apos;s XTEST extension</source>
+        <translation>mit Strg+V einfügen oder die Erweiterung XTEST des X-Servers einschalten</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>Zwischenablage</translation>
+    </message>
+    <message>
+        <source>no XFIXES</source>
+        <translation>kein XFIXES</translation>
+    </message>
+    <message>
+        <source>enable the X server&apos;s XFIXES extension</source>
+        <translation>die Erweiterung XFIXES des X-Servers einschalten</translation>
+    </message>
+    <message>
+        <source>Display server</source>
+        <translation>Anzeigeserver</translation>
+    </message>
+    <message>
+        <source>log in to an X11 session</source>
+        <translation>in einer X11-Sitzung anmelden</translation>
+    </message>
+    <message>
+        <source>X11 (%1), backend x11</source>
+        <translation>X11 (%1), Backend x11</translation>
+    </message>
+    <message>
+        <source>Window manager</source>
+        <translation>Fensterverwaltung</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <translation>vorhanden</translation>
+    </message>
+    <message>
+        <source>none: windows may not come to the front</source>
+        <translation>keine: Fenster kommen vielleicht nicht nach vorn</translation>
+    </message>
+    <message>
+        <source>start a window manager</source>
+        <translation>eine Fensterverwaltung starten</translation>
+    </message>
+    <message>
+        <source>Compositor</source>
+        <translation>Compositor</translation>
+    </message>
+    <message>
+        <source>none: the status panel has hard edges</source>
+        <translation>keiner: Die Anzeige hat harte Kanten</translation>
+    </message>
+    <message>
+        <source>XEmbed tray</source>
+        <translation>XEmbed-Leiste</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V does not paste in it</source>
+        <translation>Strg+Umschalt+V fügt darin nicht ein</translation>
+    </message>
+    <message>
+        <source>add to ~/.Xresources and load it with xrdb -merge: %1</source>
+        <translation>in ~/.Xresources eintragen und mit xrdb -merge laden: %1</translation>
+    </message>
+    <message>
+        <source>Sound server</source>
+        <translation>Tonserver</translation>
+    </message>
+    <message>
+        <source>refuses access</source>
+        <translation>verweigert den Zugriff</translation>
+    </message>
+    <message>
+        <source>allow Quillo to record in the sandbox or sound settings</source>
+        <translation>Quillo in den Sandbox- oder Klangeinstellungen die Aufnahme erlauben</translation>
+    </message>
+    <message>
+        <source>not running</source>
+        <translation>läuft nicht</translation>
+    </message>
+    <message>
+        <source>start PulseAudio or PipeWire (pipewire-pulse)</source>
+        <translation>PulseAudio oder PipeWire (pipewire-pulse) starten</translation>
+    </message>
+    <message>
+        <source>Microphone level</source>
+        <translation>Mikrofonpegel</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be recorded</source>
+        <translation>davon lässt sich nicht aufnehmen</translation>
+    </message>
+    <message>
+        <source>choose another input device</source>
+        <translation>ein anderes Eingabegerät wählen</translation>
+    </message>
+    <message>
+        <source>silent</source>
+        <translation>still</translation>
+    </message>
+    <message>
+        <source>unmute the input device in the sound settings</source>
+        <translation>die Stummschaltung in den Klangeinstellungen aufheben</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Mikrofon</translation>
+    </message>
+    <message>
+        <source>no input device</source>
+        <translation>kein Eingabegerät</translation>
+    </message>
+    <message>
+        <source>connect a microphone, or choose one in the sound settings</source>
+        <translation>ein Mikrofon anschließen oder in den Klangeinstellungen wählen</translation>
+    </message>
+    <message>
+        <source>Keyring</source>
+        <translation>Schlüsselbund</translation>
+    </message>
+    <message>
+        <source>absent: no Secret Service on the session bus</source>
+        <translation>fehlt: kein Secret Service auf dem Sitzungsbus</translation>
+    </message>
+    <message>
+        <source>install and start GNOME Keyring, KWallet or KeePassXC; until then the credential is kept in memory and each start is a new device</source>
+        <translation>GNOME-Schlüsselbund, KWallet oder KeePassXC installieren und starten; bis dahin bleibt der Zugang im Speicher, und jeder Start ist ein neues Gerät</translation>
+    </message>
+    <message>
+        <source>there, without a default keyring</source>
+        <translation>vorhanden, ohne Standard-Schlüsselbund</translation>
+    </message>
+    <message>
+        <source>it is made when Quillo first stores its credential</source>
+        <translation>er entsteht, wenn Quillo seinen Zugang zum ersten Mal speichert</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>gesperrt</translation>
+    </message>
+    <message>
+        <source>unlock the login keyring; until then the credential is kept in memory and each start is a new device</source>
+        <translation>den Anmelde-Schlüsselbund entsperren; bis dahin bleibt der Zugang im Speicher, und jeder Start ist ein neues Gerät</translation>
+    </message>
+    <message>
+        <source>usable</source>
+        <translation>nutzbar</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Konfiguration</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read or written</source>
+        <translation>%1 ist nicht les- oder schreibbar</translation>
+    </message>
+    <message>
+        <source>make it yours: chown and chmod u+rw</source>
+        <translation>sich zu eigen machen: chown und chmod u+rw</translation>
+    </message>
+    <message>
+        <source>%1 is damaged: what can&apos;t be read counts as not set</source>
+        <translation>%1 ist beschädigt: Unlesbares gilt als nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>mend the file or move it away</source>
+        <translation>die Datei reparieren oder wegräumen</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>Systemleiste</translation>
+    </message>
+    <message>
+        <source>none on this desktop</source>
+        <translation>keine auf diesem Desktop</translation>
+    </message>
+    <message>
+        <source>start quillo again for the history, use its commands (quillo --help), or add a tray to the panel</source>
+        <translation>quillo noch einmal starten zeigt den Verlauf; Befehle siehe quillo --help; oder der Leiste einen Systembereich hinzufügen</translation>
+    </message>
+    <message>
+        <source>choose another one in the settings</source>
+        <translation>in den Einstellungen ein anderes wählen</translation>
+    </message>
+    <message>
+        <source>Hot keys</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>the running Quillo does not answer</source>
+        <translation>das laufende Quillo antwortet nicht</translation>
+    </message>
+    <message>
+        <source>end it and start it again</source>
+        <translation>beenden und neu starten</translation>
+    </message>
+    <message>
+        <source>Hot key</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>held by the running Quillo</source>
+        <translation>vom laufenden Quillo belegt</translation>
+    </message>
+    <message>
+        <source>Session bus</source>
+        <translation>Sitzungsbus</translation>
+    </message>
+    <message>
+        <source>none: no tray item, no keyring, no commands</source>
+        <translation>keiner: kein Symbol, kein Schlüsselbund, keine Befehle</translation>
+    </message>
+    <message>
+        <source>log in through a desktop session, or start one with dbus-run-session</source>
+        <translation>über eine Desktop-Sitzung anmelden oder mit dbus-run-session starten</translation>
+    </message>
+    <message>
+        <source>there; Quillo is running</source>
+        <translation>vorhanden; Quillo läuft</translation>
+    </message>
+    <message>
+        <source>there; Quillo isn&apos;t running</source>
+        <translation>vorhanden; Quillo läuft nicht</translation>
+    </message>
+    <message>
+        <source>%1 is free</source>
+        <translation>%1 ist frei</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program</source>
+        <translation>%1 gehört einem anderen Programm</translation>
+    </message>
+    <message>
+        <source>not tried: %1</source>
+        <translation>nicht versucht: %1</translation>
+    </message>
+    <message>
+        <source>Backend</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>no usable address</source>
+        <translation>keine brauchbare Adresse</translation>
+    </message>
+    <message>
+        <source>set apiURL in %1</source>
+        <translation>apiURL in %1 setzen</translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation>%1 antwortet nicht</translation>
+    </message>
+    <message>
+        <source>check the network; a server of your own is started with quillo-backend</source>
+        <translation>das Netzwerk prüfen; ein eigener Server startet mit quillo-backend</translation>
+    </message>
+    <message>
+        <source>%1 answers</source>
+        <translation>%1 antwortet</translation>
+    </message>
+    <message>
+        <source>%1 answers %2, which no Quillo backend does</source>
+        <translation>%1 antwortet %2, was kein Quillo-Server tut</translation>
+    </message>
+    <message>
+        <source>check apiURL in %1</source>
+        <translation>apiURL in %1 prüfen</translation>
+    </message>
+    <message>
+        <source>Consent</source>
+        <translation>Zustimmung</translation>
+    </message>
+    <message>
+        <source>given</source>
+        <translation>erteilt</translation>
+    </message>
+    <message>
+        <source>not given: dictation stays off</source>
+        <translation>nicht erteilt: Das Diktat bleibt aus</translation>
+    </message>
+    <message>
+        <source>start Quillo and agree</source>
+        <translation>Quillo starten und zustimmen</translation>
+    </message>
+    <message>
+        <source>Fonts</source>
+        <translation>Schriften</translation>
+    </message>
+    <message>
+        <source>Liberation Sans is missing: another face stands in</source>
+        <translation>Liberation Sans fehlt: eine andere Schrift springt ein</translation>
+    </message>
+    <message>
+        <source>install fonts-liberation</source>
+        <translation>fonts-liberation installieren</translation>
+    </message>
+    <message>
+        <source>Liberation Sans; the system serif stands in for Fraunces</source>
+        <translation>Liberation Sans; für Fraunces springt die Serifenschrift des Systems ein</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>MISSING</source>
+        <translation>FEHLT</translation>
+    </message>
+    <message>
+        <source>
+Dictation can work here.
+</source>
+        <translation>
+Hier kann diktiert werden.
+</translation>
+    </message>
+    <message>
+        <source>
+Dictation can&apos;t work here yet.
+</source>
+        <translation>
+Hier kann noch nicht diktiert werden.
+</translation>
     </message>
 </context>
 <context>
@@ -323,6 +840,98 @@
     </message>
 </context>
 <context>
+    <name>Instance</name>
+    <message>
+        <source>There is no session bus (DBUS_SESSION_BUS_ADDRESS), so Quillo can&apos;t be reached.</source>
+        <translation>Es gibt keinen Sitzungsbus (DBUS_SESSION_BUS_ADDRESS), also ist Quillo nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>Quillo isn&apos;t running. Start it with: quillo</source>
+        <translation>Quillo läuft nicht. Es startet mit: quillo</translation>
+    </message>
+    <message>
+        <source>Quillo refused: %1</source>
+        <translation>Quillo hat abgelehnt: %1</translation>
+    </message>
+    <message>
+        <source>Quillo did not answer: %1</source>
+        <translation>Quillo hat nicht geantwortet: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalizedError</name>
+    <message>
+        <source>%1 is no sound file that can be read.</source>
+        <translation>%1 ist keine lesbare Tondatei.</translation>
+    </message>
+    <message>
+        <source>There is no sound in %1.</source>
+        <translation>%1 enthält keinen Ton.</translation>
+    </message>
+    <message>
+        <source>The sound of %1 can&apos;t be decoded.</source>
+        <translation>Der Ton von %1 lässt sich nicht dekodieren.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Angehalten.</translation>
+    </message>
+    <message>
+        <source>The sound of %1 can&apos;t be converted.</source>
+        <translation>Der Ton von %1 lässt sich nicht umwandeln.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Es gibt keine Datei %1.</translation>
+    </message>
+    <message>
+        <source>The converted recording can&apos;t be written.</source>
+        <translation>Die umgewandelte Aufnahme lässt sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t start the microphone.</source>
+        <translation>Das Mikrofon lässt sich nicht starten.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoverHistory</name>
+    <message>
+        <source>%1 can&apos;t be read.</source>
+        <translation>%1 ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>The history can&apos;t be saved: %1</source>
+        <translation>Der Verlauf lässt sich nicht speichern: %1</translation>
+    </message>
+    <message>
+        <source>1 entry taken over.
+</source>
+        <translation>1 Eintrag übernommen.
+</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries taken over.
+</source>
+        <translation>
+            <numerusform>%Ln Eintrag übernommen.
+</numerusform>
+            <numerusform>%Ln Einträge übernommen.
+</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RemoteControl</name>
+    <message>
+        <source>unmetered</source>
+        <translation>unbegrenzt</translation>
+    </message>
+    <message>
+        <source>There is no action &quot;%1&quot;.</source>
+        <translation>Es gibt keine Aktion „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>SearchField</name>
     <message>
         <source>Search transcriptions</source>
@@ -431,6 +1040,99 @@
     <message>
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>Nehmen Sie Strg, Alt oder Super dazu – oder eine F-Taste –, damit es nicht beim Tippen stört.</translation>
+    </message>
+</context>
+<context>
+    <name>Start</name>
+    <message>
+        <source>There is no session bus: no tray item but XEmbed&apos;s, no keyring, and commands can&apos;t reach Quillo.</source>
+        <translation>Es gibt keinen Sitzungsbus: kein Symbol außer über XEmbed, kein Schlüsselbund, und Befehle erreichen Quillo nicht.</translation>
+    </message>
+    <message>
+        <source>%1 See: quillo --help</source>
+        <translation>%1 Siehe: quillo --help</translation>
+    </message>
+</context>
+<context>
+    <name>Status</name>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>unmetered</source>
+        <translation>unbegrenzt</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>noch unbekannt</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>All entries</source>
+        <translation>Alle Einträge</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>Tokens</translation>
+    </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Mikrofon</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Bedienungshilfen</translation>
+    </message>
+    <message>
+        <source>Consent</source>
+        <translation>Zustimmung</translation>
+    </message>
+</context>
+<context>
+    <name>Transcribe</name>
+    <message>
+        <source>Standard input can&apos;t be read.</source>
+        <translation>Die Standardeingabe ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>The temporary folder is full.</source>
+        <translation>Der Ordner für temporäre Dateien ist voll.</translation>
+    </message>
+    <message>
+        <source>The temporary folder can&apos;t be written.</source>
+        <translation>In den Ordner für temporäre Dateien lässt sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Reading… %1 %</source>
+        <translation>Wird gelesen … %1 %</translation>
+    </message>
+    <message>
+        <source>Transcribing… %1 s</source>
+        <translation>Wird umgewandelt … %1 s</translation>
+    </message>
+    <message>
+        <source>Transcribing…</source>
+        <translation>Wird umgewandelt …</translation>
     </message>
 </context>
 </TS>

@@ -78,6 +78,121 @@
         <source>Something went wrong. Please try again.</source>
         <translation>Something went wrong. Please try again.</translation>
     </message>
+    <message>
+        <source>Couldn&apos;t start the microphone.</source>
+        <translation>Couldn&apos;t start the microphone.</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Hold the dictation shortcut</source>
+        <translation>Hold the dictation shortcut</translation>
+    </message>
+    <message>
+        <source>Let go of it</source>
+        <translation>Let go of it</translation>
+    </message>
+    <message>
+        <source>Start dictating, or finish and paste</source>
+        <translation>Start dictating, or finish and paste</translation>
+    </message>
+    <message>
+        <source>Drop the recording</source>
+        <translation>Drop the recording</translation>
+    </message>
+    <message>
+        <source>Show the history</source>
+        <translation>Show the history</translation>
+    </message>
+    <message>
+        <source>Show the history with the group editor</source>
+        <translation>Show the history with the group editor</translation>
+    </message>
+    <message>
+        <source>Show the settings</source>
+        <translation>Show the settings</translation>
+    </message>
+    <message>
+        <source>Make the next group the current one</source>
+        <translation>Make the next group the current one</translation>
+    </message>
+    <message>
+        <source>Open the page where tokens are bought</source>
+        <translation>Open the page where tokens are bought</translation>
+    </message>
+    <message>
+        <source>Print what the program is doing</source>
+        <translation>Print what the program is doing</translation>
+    </message>
+    <message>
+        <source>End the program</source>
+        <translation>End the program</translation>
+    </message>
+    <message>
+        <source>Print the text of a recording; - reads standard input</source>
+        <translation>Print the text of a recording; - reads standard input</translation>
+    </message>
+    <message>
+        <source>Print what this desktop offers for dictation, and what is missing</source>
+        <translation>Print what this desktop offers for dictation, and what is missing</translation>
+    </message>
+    <message>
+        <source>Usage: quillo [COMMAND]
+
+Without a command Quillo starts, or shows its history if it runs already.
+Hold the dictation shortcut, speak, let go: the words appear in the program in front.
+
+Commands:
+</source>
+        <translation>Usage: quillo [COMMAND]
+
+Without a command Quillo starts, or shows its history if it runs already.
+Hold the dictation shortcut, speak, let go: the words appear in the program in front.
+
+Commands:
+</translation>
+    </message>
+    <message>
+        <source>
+Options:
+  -h, --help        Print this
+  -v, --version     Print the version
+
+Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t running.
+</source>
+        <translation>
+Options:
+  -h, --help        Print this
+  -v, --version     Print the version
+
+Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t running.
+</translation>
+    </message>
+    <message>
+        <source>--json belongs to the command status.</source>
+        <translation>--json belongs to the command status.</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;.</source>
+        <translation>There is no command &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>transcribe takes one file.</source>
+        <translation>transcribe takes one file.</translation>
+    </message>
+    <message>
+        <source>%1 takes no argument.</source>
+        <translation>%1 takes no argument.</translation>
+    </message>
+    <message>
+        <source>Take over what can be read in a damaged history</source>
+        <translation>Take over what can be read in a damaged history</translation>
+    </message>
+    <message>
+        <source>--recover belongs to the command history.</source>
+        <translation>--recover belongs to the command history.</translation>
+    </message>
 </context>
 <context>
     <name>CopyPill</name>
@@ -154,6 +269,25 @@
     </message>
 </context>
 <context>
+    <name>Display</name>
+    <message>
+        <source>QUILLO_PLATFORM is &quot;%1&quot;; it can be x11 or wayland.</source>
+        <translation>QUILLO_PLATFORM is &quot;%1&quot;; it can be x11 or wayland.</translation>
+    </message>
+    <message>
+        <source>Wayland sessions are not supported yet. Log in to an X11 session, or try QUILLO_PLATFORM=x11, which reaches only the programs that run through Xwayland.</source>
+        <translation>Wayland sessions are not supported yet. Log in to an X11 session, or try QUILLO_PLATFORM=x11, which reaches only the programs that run through Xwayland.</translation>
+    </message>
+    <message>
+        <source>There is no X11 display (DISPLAY is not set).</source>
+        <translation>There is no X11 display (DISPLAY is not set).</translation>
+    </message>
+    <message>
+        <source>The X11 display %1 can&apos;t be reached.</source>
+        <translation>The X11 display %1 can&apos;t be reached.</translation>
+    </message>
+</context>
+<context>
     <name>EntryList</name>
     <message>
         <source>Entries</source>
@@ -181,6 +315,389 @@
     <message>
         <source>Delete</source>
         <translation>Delete</translation>
+    </message>
+</context>
+<context>
+    <name>Finding</name>
+    <message>
+        <source>there is no X server at $DISPLAY</source>
+        <translation>there is no X server at $DISPLAY</translation>
+    </message>
+    <message>
+        <source>the X server has no keyboard extension (XKB)</source>
+        <translation>the X server has no keyboard extension (XKB)</translation>
+    </message>
+    <message>
+        <source>the X server has no XFIXES extension</source>
+        <translation>the X server has no XFIXES extension</translation>
+    </message>
+    <message>
+        <source>Raw keys</source>
+        <translation>Raw keys</translation>
+    </message>
+    <message>
+        <source>no XInput 2.2: the dictation shortcut is a single key</source>
+        <translation>no XInput 2.2: the dictation shortcut is a single key</translation>
+    </message>
+    <message>
+        <source>choose a key combination in the settings</source>
+        <translation>choose a key combination in the settings</translation>
+    </message>
+    <message>
+        <source>no XInput 2.2: a single key can&apos;t be a shortcut</source>
+        <translation>no XInput 2.2: a single key can&apos;t be a shortcut</translation>
+    </message>
+    <message>
+        <source>use a key combination</source>
+        <translation>use a key combination</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Keyboard</translation>
+    </message>
+    <message>
+        <source>no XKB</source>
+        <translation>no XKB</translation>
+    </message>
+    <message>
+        <source>enable the X server&apos;s XKEYBOARD extension</source>
+        <translation>enable the X server&apos;s XKEYBOARD extension</translation>
+    </message>
+    <message>
+        <source>Key posting</source>
+        <translation>Key posting</translation>
+    </message>
+    <message>
+        <source>no XTEST: text is copied, not pasted</source>
+        <translation>no XTEST: text is copied, not pasted</translation>
+    </message>
+    <message>
+        <source>paste with Ctrl+V, or enable the X server&apos;s XTEST extension</source>
+        <translation>paste with Ctrl+V, or enable the X server&apos;s XTEST extension</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>Clipboard</translation>
+    </message>
+    <message>
+        <source>no XFIXES</source>
+        <translation>no XFIXES</translation>
+    </message>
+    <message>
+        <source>enable the X server&apos;s XFIXES extension</source>
+        <translation>enable the X server&apos;s XFIXES extension</translation>
+    </message>
+    <message>
+        <source>Display server</source>
+        <translation>Display server</translation>
+    </message>
+    <message>
+        <source>log in to an X11 session</source>
+        <translation>log in to an X11 session</translation>
+    </message>
+    <message>
+        <source>X11 (%1), backend x11</source>
+        <translation>X11 (%1), backend x11</translation>
+    </message>
+    <message>
+        <source>Window manager</source>
+        <translation>Window manager</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <translation>there</translation>
+    </message>
+    <message>
+        <source>none: windows may not come to the front</source>
+        <translation>none: windows may not come to the front</translation>
+    </message>
+    <message>
+        <source>start a window manager</source>
+        <translation>start a window manager</translation>
+    </message>
+    <message>
+        <source>Compositor</source>
+        <translation>Compositor</translation>
+    </message>
+    <message>
+        <source>none: the status panel has hard edges</source>
+        <translation>none: the status panel has hard edges</translation>
+    </message>
+    <message>
+        <source>XEmbed tray</source>
+        <translation>XEmbed tray</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V does not paste in it</source>
+        <translation>Ctrl+Shift+V does not paste in it</translation>
+    </message>
+    <message>
+        <source>add to ~/.Xresources and load it with xrdb -merge: %1</source>
+        <translation>add to ~/.Xresources and load it with xrdb -merge: %1</translation>
+    </message>
+    <message>
+        <source>Sound server</source>
+        <translation>Sound server</translation>
+    </message>
+    <message>
+        <source>refuses access</source>
+        <translation>refuses access</translation>
+    </message>
+    <message>
+        <source>allow Quillo to record in the sandbox or sound settings</source>
+        <translation>allow Quillo to record in the sandbox or sound settings</translation>
+    </message>
+    <message>
+        <source>not running</source>
+        <translation>not running</translation>
+    </message>
+    <message>
+        <source>start PulseAudio or PipeWire (pipewire-pulse)</source>
+        <translation>start PulseAudio or PipeWire (pipewire-pulse)</translation>
+    </message>
+    <message>
+        <source>Microphone level</source>
+        <translation>Microphone level</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be recorded</source>
+        <translation>it can&apos;t be recorded</translation>
+    </message>
+    <message>
+        <source>choose another input device</source>
+        <translation>choose another input device</translation>
+    </message>
+    <message>
+        <source>silent</source>
+        <translation>silent</translation>
+    </message>
+    <message>
+        <source>unmute the input device in the sound settings</source>
+        <translation>unmute the input device in the sound settings</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
+    </message>
+    <message>
+        <source>no input device</source>
+        <translation>no input device</translation>
+    </message>
+    <message>
+        <source>connect a microphone, or choose one in the sound settings</source>
+        <translation>connect a microphone, or choose one in the sound settings</translation>
+    </message>
+    <message>
+        <source>Keyring</source>
+        <translation>Keyring</translation>
+    </message>
+    <message>
+        <source>absent: no Secret Service on the session bus</source>
+        <translation>absent: no Secret Service on the session bus</translation>
+    </message>
+    <message>
+        <source>install and start GNOME Keyring, KWallet or KeePassXC; until then the credential is kept in memory and each start is a new device</source>
+        <translation>install and start GNOME Keyring, KWallet or KeePassXC; until then the credential is kept in memory and each start is a new device</translation>
+    </message>
+    <message>
+        <source>there, without a default keyring</source>
+        <translation>there, without a default keyring</translation>
+    </message>
+    <message>
+        <source>it is made when Quillo first stores its credential</source>
+        <translation>it is made when Quillo first stores its credential</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>locked</translation>
+    </message>
+    <message>
+        <source>unlock the login keyring; until then the credential is kept in memory and each start is a new device</source>
+        <translation>unlock the login keyring; until then the credential is kept in memory and each start is a new device</translation>
+    </message>
+    <message>
+        <source>usable</source>
+        <translation>usable</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferences</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read or written</source>
+        <translation>%1 can&apos;t be read or written</translation>
+    </message>
+    <message>
+        <source>make it yours: chown and chmod u+rw</source>
+        <translation>make it yours: chown and chmod u+rw</translation>
+    </message>
+    <message>
+        <source>%1 is damaged: what can&apos;t be read counts as not set</source>
+        <translation>%1 is damaged: what can&apos;t be read counts as not set</translation>
+    </message>
+    <message>
+        <source>mend the file or move it away</source>
+        <translation>mend the file or move it away</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>Tray</translation>
+    </message>
+    <message>
+        <source>none on this desktop</source>
+        <translation>none on this desktop</translation>
+    </message>
+    <message>
+        <source>start quillo again for the history, use its commands (quillo --help), or add a tray to the panel</source>
+        <translation>start quillo again for the history, use its commands (quillo --help), or add a tray to the panel</translation>
+    </message>
+    <message>
+        <source>choose another one in the settings</source>
+        <translation>choose another one in the settings</translation>
+    </message>
+    <message>
+        <source>Hot keys</source>
+        <translation>Hot keys</translation>
+    </message>
+    <message>
+        <source>the running Quillo does not answer</source>
+        <translation>the running Quillo does not answer</translation>
+    </message>
+    <message>
+        <source>end it and start it again</source>
+        <translation>end it and start it again</translation>
+    </message>
+    <message>
+        <source>Hot key</source>
+        <translation>Hot key</translation>
+    </message>
+    <message>
+        <source>held by the running Quillo</source>
+        <translation>held by the running Quillo</translation>
+    </message>
+    <message>
+        <source>Session bus</source>
+        <translation>Session bus</translation>
+    </message>
+    <message>
+        <source>none: no tray item, no keyring, no commands</source>
+        <translation>none: no tray item, no keyring, no commands</translation>
+    </message>
+    <message>
+        <source>log in through a desktop session, or start one with dbus-run-session</source>
+        <translation>log in through a desktop session, or start one with dbus-run-session</translation>
+    </message>
+    <message>
+        <source>there; Quillo is running</source>
+        <translation>there; Quillo is running</translation>
+    </message>
+    <message>
+        <source>there; Quillo isn&apos;t running</source>
+        <translation>there; Quillo isn&apos;t running</translation>
+    </message>
+    <message>
+        <source>%1 is free</source>
+        <translation>%1 is free</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program</source>
+        <translation>%1 is taken by another program</translation>
+    </message>
+    <message>
+        <source>not tried: %1</source>
+        <translation>not tried: %1</translation>
+    </message>
+    <message>
+        <source>Backend</source>
+        <translation>Backend</translation>
+    </message>
+    <message>
+        <source>no usable address</source>
+        <translation>no usable address</translation>
+    </message>
+    <message>
+        <source>set apiURL in %1</source>
+        <translation>set apiURL in %1</translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation>%1 does not answer</translation>
+    </message>
+    <message>
+        <source>check the network; a server of your own is started with quillo-backend</source>
+        <translation>check the network; a server of your own is started with quillo-backend</translation>
+    </message>
+    <message>
+        <source>%1 answers</source>
+        <translation>%1 answers</translation>
+    </message>
+    <message>
+        <source>%1 answers %2, which no Quillo backend does</source>
+        <translation>%1 answers %2, which no Quillo backend does</translation>
+    </message>
+    <message>
+        <source>check apiURL in %1</source>
+        <translation>check apiURL in %1</translation>
+    </message>
+    <message>
+        <source>Consent</source>
+        <translation>Consent</translation>
+    </message>
+    <message>
+        <source>given</source>
+        <translation>given</translation>
+    </message>
+    <message>
+        <source>not given: dictation stays off</source>
+        <translation>not given: dictation stays off</translation>
+    </message>
+    <message>
+        <source>start Quillo and agree</source>
+        <translation>start Quillo and agree</translation>
+    </message>
+    <message>
+        <source>Fonts</source>
+        <translation>Fonts</translation>
+    </message>
+    <message>
+        <source>Liberation Sans is missing: another face stands in</source>
+        <translation>Liberation Sans is missing: another face stands in</translation>
+    </message>
+    <message>
+        <source>install fonts-liberation</source>
+        <translation>install fonts-liberation</translation>
+    </message>
+    <message>
+        <source>Liberation Sans; the system serif stands in for Fraunces</source>
+        <translation>Liberation Sans; the system serif stands in for Fraunces</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>note</translation>
+    </message>
+    <message>
+        <source>MISSING</source>
+        <translation>MISSING</translation>
+    </message>
+    <message>
+        <source>
+Dictation can work here.
+</source>
+        <translation>
+Dictation can work here.
+</translation>
+    </message>
+    <message>
+        <source>
+Dictation can&apos;t work here yet.
+</source>
+        <translation>
+Dictation can&apos;t work here yet.
+</translation>
     </message>
 </context>
 <context>
@@ -323,6 +840,98 @@
     </message>
 </context>
 <context>
+    <name>Instance</name>
+    <message>
+        <source>There is no session bus (DBUS_SESSION_BUS_ADDRESS), so Quillo can&apos;t be reached.</source>
+        <translation>There is no session bus (DBUS_SESSION_BUS_ADDRESS), so Quillo can&apos;t be reached.</translation>
+    </message>
+    <message>
+        <source>Quillo isn&apos;t running. Start it with: quillo</source>
+        <translation>Quillo isn&apos;t running. Start it with: quillo</translation>
+    </message>
+    <message>
+        <source>Quillo refused: %1</source>
+        <translation>Quillo refused: %1</translation>
+    </message>
+    <message>
+        <source>Quillo did not answer: %1</source>
+        <translation>Quillo did not answer: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalizedError</name>
+    <message>
+        <source>%1 is no sound file that can be read.</source>
+        <translation>%1 is no sound file that can be read.</translation>
+    </message>
+    <message>
+        <source>There is no sound in %1.</source>
+        <translation>There is no sound in %1.</translation>
+    </message>
+    <message>
+        <source>The sound of %1 can&apos;t be decoded.</source>
+        <translation>The sound of %1 can&apos;t be decoded.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Stopped.</translation>
+    </message>
+    <message>
+        <source>The sound of %1 can&apos;t be converted.</source>
+        <translation>The sound of %1 can&apos;t be converted.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>There is no file %1.</translation>
+    </message>
+    <message>
+        <source>The converted recording can&apos;t be written.</source>
+        <translation>The converted recording can&apos;t be written.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t start the microphone.</source>
+        <translation>Couldn&apos;t start the microphone.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoverHistory</name>
+    <message>
+        <source>%1 can&apos;t be read.</source>
+        <translation>%1 can&apos;t be read.</translation>
+    </message>
+    <message>
+        <source>The history can&apos;t be saved: %1</source>
+        <translation>The history can&apos;t be saved: %1</translation>
+    </message>
+    <message>
+        <source>1 entry taken over.
+</source>
+        <translation>1 entry taken over.
+</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries taken over.
+</source>
+        <translation>
+            <numerusform>%Ln entry taken over.
+</numerusform>
+            <numerusform>%Ln entries taken over.
+</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RemoteControl</name>
+    <message>
+        <source>unmetered</source>
+        <translation>unmetered</translation>
+    </message>
+    <message>
+        <source>There is no action &quot;%1&quot;.</source>
+        <translation>There is no action &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>SearchField</name>
     <message>
         <source>Search transcriptions</source>
@@ -431,6 +1040,99 @@
     <message>
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>Add Ctrl, Alt or Super — or use an F-key — so it doesn&apos;t block typing.</translation>
+    </message>
+</context>
+<context>
+    <name>Start</name>
+    <message>
+        <source>There is no session bus: no tray item but XEmbed&apos;s, no keyring, and commands can&apos;t reach Quillo.</source>
+        <translation>There is no session bus: no tray item but XEmbed&apos;s, no keyring, and commands can&apos;t reach Quillo.</translation>
+    </message>
+    <message>
+        <source>%1 See: quillo --help</source>
+        <translation>%1 See: quillo --help</translation>
+    </message>
+</context>
+<context>
+    <name>Status</name>
+    <message>
+        <source>yes</source>
+        <translation>yes</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>unmetered</source>
+        <translation>unmetered</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>not known yet</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Group</translation>
+    </message>
+    <message>
+        <source>All entries</source>
+        <translation>All entries</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>Tokens</translation>
+    </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>Transcripts</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Accessibility</translation>
+    </message>
+    <message>
+        <source>Consent</source>
+        <translation>Consent</translation>
+    </message>
+</context>
+<context>
+    <name>Transcribe</name>
+    <message>
+        <source>Standard input can&apos;t be read.</source>
+        <translation>Standard input can&apos;t be read.</translation>
+    </message>
+    <message>
+        <source>The temporary folder is full.</source>
+        <translation>The temporary folder is full.</translation>
+    </message>
+    <message>
+        <source>The temporary folder can&apos;t be written.</source>
+        <translation>The temporary folder can&apos;t be written.</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Reading…</translation>
+    </message>
+    <message>
+        <source>Reading… %1 %</source>
+        <translation>Reading… %1 %</translation>
+    </message>
+    <message>
+        <source>Transcribing… %1 s</source>
+        <translation>Transcribing… %1 s</translation>
+    </message>
+    <message>
+        <source>Transcribing…</source>
+        <translation>Transcribing…</translation>
     </message>
 </context>
 </TS>

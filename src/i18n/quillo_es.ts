@@ -78,6 +78,121 @@
         <source>Something went wrong. Please try again.</source>
         <translation>Algo ha ido mal. Inténtelo de nuevo.</translation>
     </message>
+    <message>
+        <source>Couldn&apos;t start the microphone.</source>
+        <translation>No se pudo iniciar el micrófono.</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Hold the dictation shortcut</source>
+        <translation>Mantener el atajo de dictado</translation>
+    </message>
+    <message>
+        <source>Let go of it</source>
+        <translation>Soltarlo</translation>
+    </message>
+    <message>
+        <source>Start dictating, or finish and paste</source>
+        <translation>Empezar a dictar, o terminar y pegar</translation>
+    </message>
+    <message>
+        <source>Drop the recording</source>
+        <translation>Descartar la grabación</translation>
+    </message>
+    <message>
+        <source>Show the history</source>
+        <translation>Mostrar el historial</translation>
+    </message>
+    <message>
+        <source>Show the history with the group editor</source>
+        <translation>Mostrar el historial con el editor de grupos</translation>
+    </message>
+    <message>
+        <source>Show the settings</source>
+        <translation>Mostrar los ajustes</translation>
+    </message>
+    <message>
+        <source>Make the next group the current one</source>
+        <translation>Pasar al grupo siguiente</translation>
+    </message>
+    <message>
+        <source>Open the page where tokens are bought</source>
+        <translation>Abrir la página de compra de tokens</translation>
+    </message>
+    <message>
+        <source>Print what the program is doing</source>
+        <translation>Mostrar qué está haciendo el programa</translation>
+    </message>
+    <message>
+        <source>End the program</source>
+        <translation>Terminar el programa</translation>
+    </message>
+    <message>
+        <source>Print the text of a recording; - reads standard input</source>
+        <translation>Mostrar el texto de una grabación; - lee la entrada estándar</translation>
+    </message>
+    <message>
+        <source>Print what this desktop offers for dictation, and what is missing</source>
+        <translation>Mostrar qué ofrece este escritorio para el dictado y qué falta</translation>
+    </message>
+    <message>
+        <source>Usage: quillo [COMMAND]
+
+Without a command Quillo starts, or shows its history if it runs already.
+Hold the dictation shortcut, speak, let go: the words appear in the program in front.
+
+Commands:
+</source>
+        <translation>Uso: quillo [ORDEN]
+
+Sin orden, Quillo se inicia, o muestra su historial si ya está en marcha.
+Mantenga el atajo de dictado, hable y suelte: las palabras aparecen en el programa que está delante.
+
+Órdenes:
+</translation>
+    </message>
+    <message>
+        <source>
+Options:
+  -h, --help        Print this
+  -v, --version     Print the version
+
+Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t running.
+</source>
+        <translation>
+Opciones:
+  -h, --help        Mostrar esta ayuda
+  -v, --version     Mostrar la versión
+
+Estado de salida: 0 hecho, 1 fallo, 2 línea de órdenes incorrecta, 3 Quillo no está en marcha.
+</translation>
+    </message>
+    <message>
+        <source>--json belongs to the command status.</source>
+        <translation>--json pertenece a la orden status.</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;.</source>
+        <translation>No existe la orden «%1».</translation>
+    </message>
+    <message>
+        <source>transcribe takes one file.</source>
+        <translation>transcribe necesita un archivo.</translation>
+    </message>
+    <message>
+        <source>%1 takes no argument.</source>
+        <translation>%1 no lleva argumentos.</translation>
+    </message>
+    <message>
+        <source>Take over what can be read in a damaged history</source>
+        <translation>Recuperar lo legible de un historial dañado</translation>
+    </message>
+    <message>
+        <source>--recover belongs to the command history.</source>
+        <translation>--recover pertenece a la orden history.</translation>
+    </message>
 </context>
 <context>
     <name>CopyPill</name>
@@ -154,6 +269,25 @@
     </message>
 </context>
 <context>
+    <name>Display</name>
+    <message>
+        <source>QUILLO_PLATFORM is &quot;%1&quot;; it can be x11 or wayland.</source>
+        <translation>QUILLO_PLATFORM es «%1»; puede ser x11 o wayland.</translation>
+    </message>
+    <message>
+        <source>Wayland sessions are not supported yet. Log in to an X11 session, or try QUILLO_PLATFORM=x11, which reaches only the programs that run through Xwayland.</source>
+        <translation>Las sesiones Wayland aún no se admiten. Entre en una sesión X11 o pruebe QUILLO_PLATFORM=x11, que solo alcanza programas X11.</translation>
+    </message>
+    <message>
+        <source>There is no X11 display (DISPLAY is not set).</source>
+        <translation>No hay pantalla X11 (DISPLAY no está definida).</translation>
+    </message>
+    <message>
+        <source>The X11 display %1 can&apos;t be reached.</source>
+        <translation>No se puede acceder a la pantalla X11 %1.</translation>
+    </message>
+</context>
+<context>
     <name>EntryList</name>
     <message>
         <source>Entries</source>
@@ -181,6 +315,389 @@
     <message>
         <source>Delete</source>
         <translation>Eliminar</translation>
+    </message>
+</context>
+<context>
+    <name>Finding</name>
+    <message>
+        <source>there is no X server at $DISPLAY</source>
+        <translation>no hay servidor X en $DISPLAY</translation>
+    </message>
+    <message>
+        <source>the X server has no keyboard extension (XKB)</source>
+        <translation>el servidor X no tiene extensión de teclado (XKB)</translation>
+    </message>
+    <message>
+        <source>the X server has no XFIXES extension</source>
+        <translation>el servidor X no tiene la extensión XFIXES</translation>
+    </message>
+    <message>
+        <source>Raw keys</source>
+        <translation>Teclas sueltas</translation>
+    </message>
+    <message>
+        <source>no XInput 2.2: the dictation shortcut is a single key</source>
+        <translation>sin XInput 2.2: el atajo de dictado es una sola tecla</translation>
+    </message>
+    <message>
+        <source>choose a key combination in the settings</source>
+        <translation>elija una combinación de teclas en los ajustes</translation>
+    </message>
+    <message>
+        <source>no XInput 2.2: a single key can&apos;t be a shortcut</source>
+        <translation>sin XInput 2.2: una sola tecla no puede ser un atajo</translation>
+    </message>
+    <message>
+        <source>use a key combination</source>
+        <translation>use una combinación de teclas</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Teclado</translation>
+    </message>
+    <message>
+        <source>no XKB</source>
+        <translation>sin XKB</translation>
+    </message>
+    <message>
+        <source>enable the X server&apos;s XKEYBOARD extension</source>
+        <translation>active la extensión XKEYBOARD del servidor X</translation>
+    </message>
+    <message>
+        <source>Key posting</source>
+        <translation>Envío de teclas</translation>
+    </message>
+    <message>
+        <source>no XTEST: text is copied, not pasted</source>
+        <translation>sin XTEST: el texto se copia, no se pega</translation>
+    </message>
+    <message>
+        <source>paste with Ctrl+V, or enable the X server&apos;s XTEST extension</source>
+        <translation>pegue con Ctrl+V o active la extensión XTEST del servidor X</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>Portapapeles</translation>
+    </message>
+    <message>
+        <source>no XFIXES</source>
+        <translation>sin XFIXES</translation>
+    </message>
+    <message>
+        <source>enable the X server&apos;s XFIXES extension</source>
+        <translation>active la extensión XFIXES del servidor X</translation>
+    </message>
+    <message>
+        <source>Display server</source>
+        <translation>Servidor gráfico</translation>
+    </message>
+    <message>
+        <source>log in to an X11 session</source>
+        <translation>entre en una sesión X11</translation>
+    </message>
+    <message>
+        <source>X11 (%1), backend x11</source>
+        <translation>X11 (%1), módulo x11</translation>
+    </message>
+    <message>
+        <source>Window manager</source>
+        <translation>Gestor de ventanas</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <translation>presente</translation>
+    </message>
+    <message>
+        <source>none: windows may not come to the front</source>
+        <translation>ninguno: las ventanas quizá no pasen al frente</translation>
+    </message>
+    <message>
+        <source>start a window manager</source>
+        <translation>inicie un gestor de ventanas</translation>
+    </message>
+    <message>
+        <source>Compositor</source>
+        <translation>Compositor</translation>
+    </message>
+    <message>
+        <source>none: the status panel has hard edges</source>
+        <translation>ninguno: el panel tiene bordes duros</translation>
+    </message>
+    <message>
+        <source>XEmbed tray</source>
+        <translation>Bandeja XEmbed</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V does not paste in it</source>
+        <translation>Ctrl+Mayús+V no pega en él</translation>
+    </message>
+    <message>
+        <source>add to ~/.Xresources and load it with xrdb -merge: %1</source>
+        <translation>añada a ~/.Xresources y cargue con xrdb -merge: %1</translation>
+    </message>
+    <message>
+        <source>Sound server</source>
+        <translation>Servidor de sonido</translation>
+    </message>
+    <message>
+        <source>refuses access</source>
+        <translation>deniega el acceso</translation>
+    </message>
+    <message>
+        <source>allow Quillo to record in the sandbox or sound settings</source>
+        <translation>permita grabar a Quillo en los ajustes del aislamiento o de sonido</translation>
+    </message>
+    <message>
+        <source>not running</source>
+        <translation>no está en marcha</translation>
+    </message>
+    <message>
+        <source>start PulseAudio or PipeWire (pipewire-pulse)</source>
+        <translation>inicie PulseAudio o PipeWire (pipewire-pulse)</translation>
+    </message>
+    <message>
+        <source>Microphone level</source>
+        <translation>Nivel del micrófono</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be recorded</source>
+        <translation>no se puede grabar</translation>
+    </message>
+    <message>
+        <source>choose another input device</source>
+        <translation>elija otro dispositivo de entrada</translation>
+    </message>
+    <message>
+        <source>silent</source>
+        <translation>en silencio</translation>
+    </message>
+    <message>
+        <source>unmute the input device in the sound settings</source>
+        <translation>quite el silencio en los ajustes de sonido</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Micrófono</translation>
+    </message>
+    <message>
+        <source>no input device</source>
+        <translation>sin dispositivo de entrada</translation>
+    </message>
+    <message>
+        <source>connect a microphone, or choose one in the sound settings</source>
+        <translation>conecte un micrófono o elíjalo en los ajustes de sonido</translation>
+    </message>
+    <message>
+        <source>Keyring</source>
+        <translation>Depósito de claves</translation>
+    </message>
+    <message>
+        <source>absent: no Secret Service on the session bus</source>
+        <translation>ausente: no hay Secret Service en el bus de sesión</translation>
+    </message>
+    <message>
+        <source>install and start GNOME Keyring, KWallet or KeePassXC; until then the credential is kept in memory and each start is a new device</source>
+        <translation>instale e inicie GNOME Keyring, KWallet o KeePassXC; hasta entonces la credencial queda en memoria y cada inicio es un dispositivo nuevo</translation>
+    </message>
+    <message>
+        <source>there, without a default keyring</source>
+        <translation>presente, sin depósito predeterminado</translation>
+    </message>
+    <message>
+        <source>it is made when Quillo first stores its credential</source>
+        <translation>se crea cuando Quillo guarda su credencial por primera vez</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>bloqueado</translation>
+    </message>
+    <message>
+        <source>unlock the login keyring; until then the credential is kept in memory and each start is a new device</source>
+        <translation>desbloquee el depósito de inicio de sesión; hasta entonces la credencial queda en memoria y cada inicio es un dispositivo nuevo</translation>
+    </message>
+    <message>
+        <source>usable</source>
+        <translation>utilizable</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read or written</source>
+        <translation>%1 no se puede leer o escribir</translation>
+    </message>
+    <message>
+        <source>make it yours: chown and chmod u+rw</source>
+        <translation>hágalo suyo: chown y chmod u+rw</translation>
+    </message>
+    <message>
+        <source>%1 is damaged: what can&apos;t be read counts as not set</source>
+        <translation>%1 está dañado: lo ilegible cuenta como no definido</translation>
+    </message>
+    <message>
+        <source>mend the file or move it away</source>
+        <translation>repare el archivo o muévalo</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>Bandeja</translation>
+    </message>
+    <message>
+        <source>none on this desktop</source>
+        <translation>ninguna en este escritorio</translation>
+    </message>
+    <message>
+        <source>start quillo again for the history, use its commands (quillo --help), or add a tray to the panel</source>
+        <translation>inicie quillo otra vez para el historial, use sus órdenes (quillo --help) o añada una bandeja al panel</translation>
+    </message>
+    <message>
+        <source>choose another one in the settings</source>
+        <translation>elija otro en los ajustes</translation>
+    </message>
+    <message>
+        <source>Hot keys</source>
+        <translation>Atajos</translation>
+    </message>
+    <message>
+        <source>the running Quillo does not answer</source>
+        <translation>el Quillo en marcha no responde</translation>
+    </message>
+    <message>
+        <source>end it and start it again</source>
+        <translation>termínelo e inícielo de nuevo</translation>
+    </message>
+    <message>
+        <source>Hot key</source>
+        <translation>Atajo</translation>
+    </message>
+    <message>
+        <source>held by the running Quillo</source>
+        <translation>en manos del Quillo en marcha</translation>
+    </message>
+    <message>
+        <source>Session bus</source>
+        <translation>Bus de sesión</translation>
+    </message>
+    <message>
+        <source>none: no tray item, no keyring, no commands</source>
+        <translation>ninguno: sin icono, sin depósito de claves, sin órdenes</translation>
+    </message>
+    <message>
+        <source>log in through a desktop session, or start one with dbus-run-session</source>
+        <translation>entre con una sesión de escritorio o inicie una con dbus-run-session</translation>
+    </message>
+    <message>
+        <source>there; Quillo is running</source>
+        <translation>presente; Quillo está en marcha</translation>
+    </message>
+    <message>
+        <source>there; Quillo isn&apos;t running</source>
+        <translation>presente; Quillo no está en marcha</translation>
+    </message>
+    <message>
+        <source>%1 is free</source>
+        <translation>%1 está libre</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program</source>
+        <translation>otro programa usa %1</translation>
+    </message>
+    <message>
+        <source>not tried: %1</source>
+        <translation>no se probó: %1</translation>
+    </message>
+    <message>
+        <source>Backend</source>
+        <translation>Servidor</translation>
+    </message>
+    <message>
+        <source>no usable address</source>
+        <translation>sin dirección utilizable</translation>
+    </message>
+    <message>
+        <source>set apiURL in %1</source>
+        <translation>defina apiURL en %1</translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation>%1 no responde</translation>
+    </message>
+    <message>
+        <source>check the network; a server of your own is started with quillo-backend</source>
+        <translation>compruebe la red; un servidor propio se inicia con quillo-backend</translation>
+    </message>
+    <message>
+        <source>%1 answers</source>
+        <translation>%1 responde</translation>
+    </message>
+    <message>
+        <source>%1 answers %2, which no Quillo backend does</source>
+        <translation>%1 responde %2, lo que ningún servidor de Quillo hace</translation>
+    </message>
+    <message>
+        <source>check apiURL in %1</source>
+        <translation>compruebe apiURL en %1</translation>
+    </message>
+    <message>
+        <source>Consent</source>
+        <translation>Consentimiento</translation>
+    </message>
+    <message>
+        <source>given</source>
+        <translation>otorgado</translation>
+    </message>
+    <message>
+        <source>not given: dictation stays off</source>
+        <translation>no otorgado: el dictado queda desactivado</translation>
+    </message>
+    <message>
+        <source>start Quillo and agree</source>
+        <translation>inicie Quillo y acepte</translation>
+    </message>
+    <message>
+        <source>Fonts</source>
+        <translation>Tipos de letra</translation>
+    </message>
+    <message>
+        <source>Liberation Sans is missing: another face stands in</source>
+        <translation>falta Liberation Sans: la sustituye otro tipo</translation>
+    </message>
+    <message>
+        <source>install fonts-liberation</source>
+        <translation>instale fonts-liberation</translation>
+    </message>
+    <message>
+        <source>Liberation Sans; the system serif stands in for Fraunces</source>
+        <translation>Liberation Sans; la serif del sistema sustituye a Fraunces</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>nota</translation>
+    </message>
+    <message>
+        <source>MISSING</source>
+        <translation>FALTA</translation>
+    </message>
+    <message>
+        <source>
+Dictation can work here.
+</source>
+        <translation>
+El dictado puede funcionar aquí.
+</translation>
+    </message>
+    <message>
+        <source>
+Dictation can&apos;t work here yet.
+</source>
+        <translation>
+El dictado todavía no puede funcionar aquí.
+</translation>
     </message>
 </context>
 <context>
@@ -323,6 +840,98 @@
     </message>
 </context>
 <context>
+    <name>Instance</name>
+    <message>
+        <source>There is no session bus (DBUS_SESSION_BUS_ADDRESS), so Quillo can&apos;t be reached.</source>
+        <translation>No hay bus de sesión (DBUS_SESSION_BUS_ADDRESS), así que no se puede contactar con Quillo.</translation>
+    </message>
+    <message>
+        <source>Quillo isn&apos;t running. Start it with: quillo</source>
+        <translation>Quillo no está en marcha. Inícielo con: quillo</translation>
+    </message>
+    <message>
+        <source>Quillo refused: %1</source>
+        <translation>Quillo se negó: %1</translation>
+    </message>
+    <message>
+        <source>Quillo did not answer: %1</source>
+        <translation>Quillo no respondió: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalizedError</name>
+    <message>
+        <source>%1 is no sound file that can be read.</source>
+        <translation>%1 no es un archivo de sonido legible.</translation>
+    </message>
+    <message>
+        <source>There is no sound in %1.</source>
+        <translation>No hay sonido en %1.</translation>
+    </message>
+    <message>
+        <source>The sound of %1 can&apos;t be decoded.</source>
+        <translation>No se puede decodificar el sonido de %1.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Detenido.</translation>
+    </message>
+    <message>
+        <source>The sound of %1 can&apos;t be converted.</source>
+        <translation>No se puede convertir el sonido de %1.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>No existe el archivo %1.</translation>
+    </message>
+    <message>
+        <source>The converted recording can&apos;t be written.</source>
+        <translation>No se puede escribir la grabación convertida.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t start the microphone.</source>
+        <translation>No se pudo iniciar el micrófono.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoverHistory</name>
+    <message>
+        <source>%1 can&apos;t be read.</source>
+        <translation>No se puede leer %1.</translation>
+    </message>
+    <message>
+        <source>The history can&apos;t be saved: %1</source>
+        <translation>No se puede guardar el historial: %1</translation>
+    </message>
+    <message>
+        <source>1 entry taken over.
+</source>
+        <translation>1 entrada recuperada.
+</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries taken over.
+</source>
+        <translation>
+            <numerusform>%Ln entrada recuperada.
+</numerusform>
+            <numerusform>%Ln entradas recuperadas.
+</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RemoteControl</name>
+    <message>
+        <source>unmetered</source>
+        <translation>sin límite</translation>
+    </message>
+    <message>
+        <source>There is no action &quot;%1&quot;.</source>
+        <translation>No existe la acción «%1».</translation>
+    </message>
+</context>
+<context>
     <name>SearchField</name>
     <message>
         <source>Search transcriptions</source>
@@ -431,6 +1040,99 @@
     <message>
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>Añada Ctrl, Alt o Súper (o use una tecla F) para que no estorbe al escribir.</translation>
+    </message>
+</context>
+<context>
+    <name>Start</name>
+    <message>
+        <source>There is no session bus: no tray item but XEmbed&apos;s, no keyring, and commands can&apos;t reach Quillo.</source>
+        <translation>No hay bus de sesión: sin icono salvo el de XEmbed, sin depósito de claves, y las órdenes no llegan a Quillo.</translation>
+    </message>
+    <message>
+        <source>%1 See: quillo --help</source>
+        <translation>%1 Véase: quillo --help</translation>
+    </message>
+</context>
+<context>
+    <name>Status</name>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>unmetered</source>
+        <translation>sin límite</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>aún desconocido</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>All entries</source>
+        <translation>Todas las entradas</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>Tokens</translation>
+    </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>Transcripciones</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Micrófono</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Accesibilidad</translation>
+    </message>
+    <message>
+        <source>Consent</source>
+        <translation>Consentimiento</translation>
+    </message>
+</context>
+<context>
+    <name>Transcribe</name>
+    <message>
+        <source>Standard input can&apos;t be read.</source>
+        <translation>No se puede leer la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>The temporary folder is full.</source>
+        <translation>La carpeta temporal está llena.</translation>
+    </message>
+    <message>
+        <source>The temporary folder can&apos;t be written.</source>
+        <translation>No se puede escribir en la carpeta temporal.</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Leyendo…</translation>
+    </message>
+    <message>
+        <source>Reading… %1 %</source>
+        <translation>Leyendo… %1 %</translation>
+    </message>
+    <message>
+        <source>Transcribing… %1 s</source>
+        <translation>Transcribiendo… %1 s</translation>
+    </message>
+    <message>
+        <source>Transcribing…</source>
+        <translation>Transcribiendo…</translation>
     </message>
 </context>
 </TS>

@@ -78,6 +78,121 @@
         <source>Something went wrong. Please try again.</source>
         <translation>Une erreur s’est produite. Veuillez réessayer.</translation>
     </message>
+    <message>
+        <source>Couldn&apos;t start the microphone.</source>
+        <translation>Impossible de démarrer le microphone.</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Hold the dictation shortcut</source>
+        <translation>Maintenir le raccourci de dictée</translation>
+    </message>
+    <message>
+        <source>Let go of it</source>
+        <translation>Le relâcher</translation>
+    </message>
+    <message>
+        <source>Start dictating, or finish and paste</source>
+        <translation>Commencer la dictée, ou finir et coller</translation>
+    </message>
+    <message>
+        <source>Drop the recording</source>
+        <translation>Abandonner l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Show the history</source>
+        <translation>Afficher l’historique</translation>
+    </message>
+    <message>
+        <source>Show the history with the group editor</source>
+        <translation>Afficher l’historique avec l’éditeur de groupes</translation>
+    </message>
+    <message>
+        <source>Show the settings</source>
+        <translation>Afficher les réglages</translation>
+    </message>
+    <message>
+        <source>Make the next group the current one</source>
+        <translation>Passer au groupe suivant</translation>
+    </message>
+    <message>
+        <source>Open the page where tokens are bought</source>
+        <translation>Ouvrir la page d’achat de jetons</translation>
+    </message>
+    <message>
+        <source>Print what the program is doing</source>
+        <translation>Afficher ce que fait le programme</translation>
+    </message>
+    <message>
+        <source>End the program</source>
+        <translation>Quitter le programme</translation>
+    </message>
+    <message>
+        <source>Print the text of a recording; - reads standard input</source>
+        <translation>Afficher le texte d’un enregistrement ; - lit l’entrée standard</translation>
+    </message>
+    <message>
+        <source>Print what this desktop offers for dictation, and what is missing</source>
+        <translation>Afficher ce que ce bureau offre pour la dictée, et ce qui manque</translation>
+    </message>
+    <message>
+        <source>Usage: quillo [COMMAND]
+
+Without a command Quillo starts, or shows its history if it runs already.
+Hold the dictation shortcut, speak, let go: the words appear in the program in front.
+
+Commands:
+</source>
+        <translation>Usage : quillo [COMMANDE]
+
+Sans commande, Quillo démarre, ou affiche son historique s’il tourne déjà.
+Maintenez le raccourci de dictée, parlez, relâchez : les mots apparaissent dans le programme au premier plan.
+
+Commandes :
+</translation>
+    </message>
+    <message>
+        <source>
+Options:
+  -h, --help        Print this
+  -v, --version     Print the version
+
+Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t running.
+</source>
+        <translation>
+Options :
+  -h, --help        Afficher cette aide
+  -v, --version     Afficher la version
+
+Code de retour : 0 fait, 1 échec, 2 ligne de commande incorrecte, 3 Quillo ne tourne pas.
+</translation>
+    </message>
+    <message>
+        <source>--json belongs to the command status.</source>
+        <translation>--json appartient à la commande status.</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;.</source>
+        <translation>La commande « %1 » n’existe pas.</translation>
+    </message>
+    <message>
+        <source>transcribe takes one file.</source>
+        <translation>transcribe prend un fichier.</translation>
+    </message>
+    <message>
+        <source>%1 takes no argument.</source>
+        <translation>%1 ne prend pas d’argument.</translation>
+    </message>
+    <message>
+        <source>Take over what can be read in a damaged history</source>
+        <translation>Reprendre ce qui est lisible d’un historique abîmé</translation>
+    </message>
+    <message>
+        <source>--recover belongs to the command history.</source>
+        <translation>--recover appartient à la commande history.</translation>
+    </message>
 </context>
 <context>
     <name>CopyPill</name>
@@ -154,6 +269,25 @@
     </message>
 </context>
 <context>
+    <name>Display</name>
+    <message>
+        <source>QUILLO_PLATFORM is &quot;%1&quot;; it can be x11 or wayland.</source>
+        <translation>QUILLO_PLATFORM vaut « %1 » ; ce peut être x11 ou wayland.</translation>
+    </message>
+    <message>
+        <source>Wayland sessions are not supported yet. Log in to an X11 session, or try QUILLO_PLATFORM=x11, which reaches only the programs that run through Xwayland.</source>
+        <translation>Les sessions Wayland ne sont pas encore prises en charge. Ouvrez une session X11, ou essayez QUILLO_PLATFORM=x11, qui n’atteint que les programmes X11.</translation>
+    </message>
+    <message>
+        <source>There is no X11 display (DISPLAY is not set).</source>
+        <translation>Il n’y a pas d’affichage X11 (DISPLAY n’est pas définie).</translation>
+    </message>
+    <message>
+        <source>The X11 display %1 can&apos;t be reached.</source>
+        <translation>L’affichage X11 %1 est injoignable.</translation>
+    </message>
+</context>
+<context>
     <name>EntryList</name>
     <message>
         <source>Entries</source>
@@ -181,6 +315,389 @@
     <message>
         <source>Delete</source>
         <translation>Supprimer</translation>
+    </message>
+</context>
+<context>
+    <name>Finding</name>
+    <message>
+        <source>there is no X server at $DISPLAY</source>
+        <translation>aucun serveur X sur $DISPLAY</translation>
+    </message>
+    <message>
+        <source>the X server has no keyboard extension (XKB)</source>
+        <translation>le serveur X n’a pas d’extension clavier (XKB)</translation>
+    </message>
+    <message>
+        <source>the X server has no XFIXES extension</source>
+        <translation>le serveur X n’a pas l’extension XFIXES</translation>
+    </message>
+    <message>
+        <source>Raw keys</source>
+        <translation>Touches brutes</translation>
+    </message>
+    <message>
+        <source>no XInput 2.2: the dictation shortcut is a single key</source>
+        <translation>pas de XInput 2.2 : le raccourci de dictée est une touche seule</translation>
+    </message>
+    <message>
+        <source>choose a key combination in the settings</source>
+        <translation>choisir une combinaison de touches dans les réglages</translation>
+    </message>
+    <message>
+        <source>no XInput 2.2: a single key can&apos;t be a shortcut</source>
+        <translation>pas de XInput 2.2 : une touche seule ne peut pas être un raccourci</translation>
+    </message>
+    <message>
+        <source>use a key combination</source>
+        <translation>utiliser une combinaison de touches</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Clavier</translation>
+    </message>
+    <message>
+        <source>no XKB</source>
+        <translation>pas de XKB</translation>
+    </message>
+    <message>
+        <source>enable the X server&apos;s XKEYBOARD extension</source>
+        <translation>activer l’extension XKEYBOARD du serveur X</translation>
+    </message>
+    <message>
+        <source>Key posting</source>
+        <translation>Envoi de touches</translation>
+    </message>
+    <message>
+        <source>no XTEST: text is copied, not pasted</source>
+        <translation>pas de XTEST : le texte est copié, pas collé</translation>
+    </message>
+    <message>
+        <source>paste with Ctrl+V, or enable the X server&apos;s XTEST extension</source>
+        <translation>coller avec Ctrl+V, ou activer l’extension XTEST du serveur X</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>Presse-papiers</translation>
+    </message>
+    <message>
+        <source>no XFIXES</source>
+        <translation>pas de XFIXES</translation>
+    </message>
+    <message>
+        <source>enable the X server&apos;s XFIXES extension</source>
+        <translation>activer l’extension XFIXES du serveur X</translation>
+    </message>
+    <message>
+        <source>Display server</source>
+        <translation>Serveur d’affichage</translation>
+    </message>
+    <message>
+        <source>log in to an X11 session</source>
+        <translation>ouvrir une session X11</translation>
+    </message>
+    <message>
+        <source>X11 (%1), backend x11</source>
+        <translation>X11 (%1), module x11</translation>
+    </message>
+    <message>
+        <source>Window manager</source>
+        <translation>Gestionnaire de fenêtres</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <translation>présent</translation>
+    </message>
+    <message>
+        <source>none: windows may not come to the front</source>
+        <translation>aucun : les fenêtres peuvent rester derrière</translation>
+    </message>
+    <message>
+        <source>start a window manager</source>
+        <translation>lancer un gestionnaire de fenêtres</translation>
+    </message>
+    <message>
+        <source>Compositor</source>
+        <translation>Compositeur</translation>
+    </message>
+    <message>
+        <source>none: the status panel has hard edges</source>
+        <translation>aucun : le panneau a des bords durs</translation>
+    </message>
+    <message>
+        <source>XEmbed tray</source>
+        <translation>Zone XEmbed</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V does not paste in it</source>
+        <translation>Ctrl+Maj+V n’y colle pas</translation>
+    </message>
+    <message>
+        <source>add to ~/.Xresources and load it with xrdb -merge: %1</source>
+        <translation>ajouter à ~/.Xresources et charger avec xrdb -merge : %1</translation>
+    </message>
+    <message>
+        <source>Sound server</source>
+        <translation>Serveur de son</translation>
+    </message>
+    <message>
+        <source>refuses access</source>
+        <translation>refuse l’accès</translation>
+    </message>
+    <message>
+        <source>allow Quillo to record in the sandbox or sound settings</source>
+        <translation>autoriser Quillo à enregistrer dans les réglages du bac à sable ou du son</translation>
+    </message>
+    <message>
+        <source>not running</source>
+        <translation>ne tourne pas</translation>
+    </message>
+    <message>
+        <source>start PulseAudio or PipeWire (pipewire-pulse)</source>
+        <translation>démarrer PulseAudio ou PipeWire (pipewire-pulse)</translation>
+    </message>
+    <message>
+        <source>Microphone level</source>
+        <translation>Niveau du micro</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be recorded</source>
+        <translation>enregistrement impossible</translation>
+    </message>
+    <message>
+        <source>choose another input device</source>
+        <translation>choisir un autre périphérique d’entrée</translation>
+    </message>
+    <message>
+        <source>silent</source>
+        <translation>silencieux</translation>
+    </message>
+    <message>
+        <source>unmute the input device in the sound settings</source>
+        <translation>réactiver le son du périphérique dans les réglages</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
+    </message>
+    <message>
+        <source>no input device</source>
+        <translation>aucun périphérique d’entrée</translation>
+    </message>
+    <message>
+        <source>connect a microphone, or choose one in the sound settings</source>
+        <translation>brancher un microphone, ou en choisir un dans les réglages du son</translation>
+    </message>
+    <message>
+        <source>Keyring</source>
+        <translation>Trousseau</translation>
+    </message>
+    <message>
+        <source>absent: no Secret Service on the session bus</source>
+        <translation>absent : pas de Secret Service sur le bus de session</translation>
+    </message>
+    <message>
+        <source>install and start GNOME Keyring, KWallet or KeePassXC; until then the credential is kept in memory and each start is a new device</source>
+        <translation>installer et lancer GNOME Keyring, KWallet ou KeePassXC ; d’ici là l’identifiant reste en mémoire et chaque démarrage est un nouvel appareil</translation>
+    </message>
+    <message>
+        <source>there, without a default keyring</source>
+        <translation>présent, sans trousseau par défaut</translation>
+    </message>
+    <message>
+        <source>it is made when Quillo first stores its credential</source>
+        <translation>il est créé quand Quillo enregistre son identifiant</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>verrouillé</translation>
+    </message>
+    <message>
+        <source>unlock the login keyring; until then the credential is kept in memory and each start is a new device</source>
+        <translation>déverrouiller le trousseau de session ; d’ici là l’identifiant reste en mémoire et chaque démarrage est un nouvel appareil</translation>
+    </message>
+    <message>
+        <source>usable</source>
+        <translation>utilisable</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read or written</source>
+        <translation>%1 ne peut être lu ou écrit</translation>
+    </message>
+    <message>
+        <source>make it yours: chown and chmod u+rw</source>
+        <translation>se l’approprier : chown et chmod u+rw</translation>
+    </message>
+    <message>
+        <source>%1 is damaged: what can&apos;t be read counts as not set</source>
+        <translation>%1 est abîmé : ce qui est illisible compte comme non défini</translation>
+    </message>
+    <message>
+        <source>mend the file or move it away</source>
+        <translation>réparer le fichier ou le déplacer</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>Zone de notification</translation>
+    </message>
+    <message>
+        <source>none on this desktop</source>
+        <translation>aucune sur ce bureau</translation>
+    </message>
+    <message>
+        <source>start quillo again for the history, use its commands (quillo --help), or add a tray to the panel</source>
+        <translation>relancer quillo pour l’historique, utiliser ses commandes (quillo --help), ou ajouter une zone de notification</translation>
+    </message>
+    <message>
+        <source>choose another one in the settings</source>
+        <translation>en choisir un autre dans les réglages</translation>
+    </message>
+    <message>
+        <source>Hot keys</source>
+        <translation>Raccourcis</translation>
+    </message>
+    <message>
+        <source>the running Quillo does not answer</source>
+        <translation>le Quillo en cours ne répond pas</translation>
+    </message>
+    <message>
+        <source>end it and start it again</source>
+        <translation>le quitter et le relancer</translation>
+    </message>
+    <message>
+        <source>Hot key</source>
+        <translation>Raccourci</translation>
+    </message>
+    <message>
+        <source>held by the running Quillo</source>
+        <translation>tenus par le Quillo en cours</translation>
+    </message>
+    <message>
+        <source>Session bus</source>
+        <translation>Bus de session</translation>
+    </message>
+    <message>
+        <source>none: no tray item, no keyring, no commands</source>
+        <translation>aucun : ni icône, ni trousseau, ni commandes</translation>
+    </message>
+    <message>
+        <source>log in through a desktop session, or start one with dbus-run-session</source>
+        <translation>ouvrir une session de bureau, ou en lancer une avec dbus-run-session</translation>
+    </message>
+    <message>
+        <source>there; Quillo is running</source>
+        <translation>présent ; Quillo tourne</translation>
+    </message>
+    <message>
+        <source>there; Quillo isn&apos;t running</source>
+        <translation>présent ; Quillo ne tourne pas</translation>
+    </message>
+    <message>
+        <source>%1 is free</source>
+        <translation>%1 est libre</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program</source>
+        <translation>%1 est pris par un autre programme</translation>
+    </message>
+    <message>
+        <source>not tried: %1</source>
+        <translation>pas essayé : %1</translation>
+    </message>
+    <message>
+        <source>Backend</source>
+        <translation>Serveur</translation>
+    </message>
+    <message>
+        <source>no usable address</source>
+        <translation>aucune adresse utilisable</translation>
+    </message>
+    <message>
+        <source>set apiURL in %1</source>
+        <translation>définir apiURL dans %1</translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation>%1 ne répond pas</translation>
+    </message>
+    <message>
+        <source>check the network; a server of your own is started with quillo-backend</source>
+        <translation>vérifier le réseau ; un serveur à soi se lance avec quillo-backend</translation>
+    </message>
+    <message>
+        <source>%1 answers</source>
+        <translation>%1 répond</translation>
+    </message>
+    <message>
+        <source>%1 answers %2, which no Quillo backend does</source>
+        <translation>%1 répond %2, ce qu’aucun serveur Quillo ne fait</translation>
+    </message>
+    <message>
+        <source>check apiURL in %1</source>
+        <translation>vérifier apiURL dans %1</translation>
+    </message>
+    <message>
+        <source>Consent</source>
+        <translation>Accord</translation>
+    </message>
+    <message>
+        <source>given</source>
+        <translation>donné</translation>
+    </message>
+    <message>
+        <source>not given: dictation stays off</source>
+        <translation>non donné : la dictée reste désactivée</translation>
+    </message>
+    <message>
+        <source>start Quillo and agree</source>
+        <translation>lancer Quillo et accepter</translation>
+    </message>
+    <message>
+        <source>Fonts</source>
+        <translation>Polices</translation>
+    </message>
+    <message>
+        <source>Liberation Sans is missing: another face stands in</source>
+        <translation>Liberation Sans manque : une autre police la remplace</translation>
+    </message>
+    <message>
+        <source>install fonts-liberation</source>
+        <translation>installer fonts-liberation</translation>
+    </message>
+    <message>
+        <source>Liberation Sans; the system serif stands in for Fraunces</source>
+        <translation>Liberation Sans ; la police à empattements du système remplace Fraunces</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>note</translation>
+    </message>
+    <message>
+        <source>MISSING</source>
+        <translation>MANQUE</translation>
+    </message>
+    <message>
+        <source>
+Dictation can work here.
+</source>
+        <translation>
+La dictée peut fonctionner ici.
+</translation>
+    </message>
+    <message>
+        <source>
+Dictation can&apos;t work here yet.
+</source>
+        <translation>
+La dictée ne peut pas encore fonctionner ici.
+</translation>
     </message>
 </context>
 <context>
@@ -323,6 +840,98 @@
     </message>
 </context>
 <context>
+    <name>Instance</name>
+    <message>
+        <source>There is no session bus (DBUS_SESSION_BUS_ADDRESS), so Quillo can&apos;t be reached.</source>
+        <translation>Il n’y a pas de bus de session (DBUS_SESSION_BUS_ADDRESS) : Quillo est injoignable.</translation>
+    </message>
+    <message>
+        <source>Quillo isn&apos;t running. Start it with: quillo</source>
+        <translation>Quillo ne tourne pas. Lancez-le avec : quillo</translation>
+    </message>
+    <message>
+        <source>Quillo refused: %1</source>
+        <translation>Quillo a refusé : %1</translation>
+    </message>
+    <message>
+        <source>Quillo did not answer: %1</source>
+        <translation>Quillo n’a pas répondu : %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalizedError</name>
+    <message>
+        <source>%1 is no sound file that can be read.</source>
+        <translation>%1 n’est pas un fichier audio lisible.</translation>
+    </message>
+    <message>
+        <source>There is no sound in %1.</source>
+        <translation>Il n’y a pas de son dans %1.</translation>
+    </message>
+    <message>
+        <source>The sound of %1 can&apos;t be decoded.</source>
+        <translation>Impossible de décoder le son de %1.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Arrêté.</translation>
+    </message>
+    <message>
+        <source>The sound of %1 can&apos;t be converted.</source>
+        <translation>Impossible de convertir le son de %1.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Le fichier %1 n’existe pas.</translation>
+    </message>
+    <message>
+        <source>The converted recording can&apos;t be written.</source>
+        <translation>Impossible d’écrire l’enregistrement converti.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t start the microphone.</source>
+        <translation>Impossible de démarrer le microphone.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoverHistory</name>
+    <message>
+        <source>%1 can&apos;t be read.</source>
+        <translation>Impossible de lire %1.</translation>
+    </message>
+    <message>
+        <source>The history can&apos;t be saved: %1</source>
+        <translation>Impossible d’enregistrer l’historique : %1</translation>
+    </message>
+    <message>
+        <source>1 entry taken over.
+</source>
+        <translation>1 entrée reprise.
+</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries taken over.
+</source>
+        <translation>
+            <numerusform>%Ln entrée reprise.
+</numerusform>
+            <numerusform>%Ln entrées reprises.
+</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RemoteControl</name>
+    <message>
+        <source>unmetered</source>
+        <translation>illimité</translation>
+    </message>
+    <message>
+        <source>There is no action &quot;%1&quot;.</source>
+        <translation>L’action « %1 » n’existe pas.</translation>
+    </message>
+</context>
+<context>
     <name>SearchField</name>
     <message>
         <source>Search transcriptions</source>
@@ -431,6 +1040,99 @@
     <message>
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>Ajoutez Ctrl, Alt ou Super – ou une touche F – pour ne pas gêner la saisie.</translation>
+    </message>
+</context>
+<context>
+    <name>Start</name>
+    <message>
+        <source>There is no session bus: no tray item but XEmbed&apos;s, no keyring, and commands can&apos;t reach Quillo.</source>
+        <translation>Il n’y a pas de bus de session : pas d’icône hors XEmbed, pas de trousseau, et les commandes n’atteignent pas Quillo.</translation>
+    </message>
+    <message>
+        <source>%1 See: quillo --help</source>
+        <translation>%1 Voir : quillo --help</translation>
+    </message>
+</context>
+<context>
+    <name>Status</name>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>unmetered</source>
+        <translation>illimité</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>pas encore connu</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groupe</translation>
+    </message>
+    <message>
+        <source>All entries</source>
+        <translation>Toutes les entrées</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>Jetons</translation>
+    </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>Transcriptions</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Accessibilité</translation>
+    </message>
+    <message>
+        <source>Consent</source>
+        <translation>Accord</translation>
+    </message>
+</context>
+<context>
+    <name>Transcribe</name>
+    <message>
+        <source>Standard input can&apos;t be read.</source>
+        <translation>Impossible de lire l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>The temporary folder is full.</source>
+        <translation>Le dossier temporaire est plein.</translation>
+    </message>
+    <message>
+        <source>The temporary folder can&apos;t be written.</source>
+        <translation>Impossible d’écrire dans le dossier temporaire.</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Lecture…</translation>
+    </message>
+    <message>
+        <source>Reading… %1 %</source>
+        <translation>Lecture… %1 %</translation>
+    </message>
+    <message>
+        <source>Transcribing… %1 s</source>
+        <translation>Transcription… %1 s</translation>
+    </message>
+    <message>
+        <source>Transcribing…</source>
+        <translation>Transcription…</translation>
     </message>
 </context>
 </TS>

@@ -75,6 +75,121 @@
         <source>Something went wrong. Please try again.</source>
         <translation>問題が発生しました。もう一度お試しください。</translation>
     </message>
+    <message>
+        <source>Couldn&apos;t start the microphone.</source>
+        <translation>マイクを開始できませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Hold the dictation shortcut</source>
+        <translation>音声入力のショートカットを押し続ける</translation>
+    </message>
+    <message>
+        <source>Let go of it</source>
+        <translation>離す</translation>
+    </message>
+    <message>
+        <source>Start dictating, or finish and paste</source>
+        <translation>音声入力を開始、または終了して貼り付け</translation>
+    </message>
+    <message>
+        <source>Drop the recording</source>
+        <translation>録音を破棄</translation>
+    </message>
+    <message>
+        <source>Show the history</source>
+        <translation>履歴を表示</translation>
+    </message>
+    <message>
+        <source>Show the history with the group editor</source>
+        <translation>履歴とグループ編集を表示</translation>
+    </message>
+    <message>
+        <source>Show the settings</source>
+        <translation>設定を表示</translation>
+    </message>
+    <message>
+        <source>Make the next group the current one</source>
+        <translation>次のグループに切り替え</translation>
+    </message>
+    <message>
+        <source>Open the page where tokens are bought</source>
+        <translation>トークンの購入ページを開く</translation>
+    </message>
+    <message>
+        <source>Print what the program is doing</source>
+        <translation>プログラムの状態を表示</translation>
+    </message>
+    <message>
+        <source>End the program</source>
+        <translation>プログラムを終了</translation>
+    </message>
+    <message>
+        <source>Print the text of a recording; - reads standard input</source>
+        <translation>録音のテキストを表示。-は標準入力</translation>
+    </message>
+    <message>
+        <source>Print what this desktop offers for dictation, and what is missing</source>
+        <translation>このデスクトップで使えるものと足りないものを表示</translation>
+    </message>
+    <message>
+        <source>Usage: quillo [COMMAND]
+
+Without a command Quillo starts, or shows its history if it runs already.
+Hold the dictation shortcut, speak, let go: the words appear in the program in front.
+
+Commands:
+</source>
+        <translation>使い方: quillo [コマンド]
+
+コマンドなしではQuilloを起動し、起動済みなら履歴を表示します。
+音声入力のショートカットを押し続けて話し、離すと、前面のプログラムに文字が入ります。
+
+コマンド:
+</translation>
+    </message>
+    <message>
+        <source>
+Options:
+  -h, --help        Print this
+  -v, --version     Print the version
+
+Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t running.
+</source>
+        <translation>
+オプション:
+  -h, --help        このヘルプを表示
+  -v, --version     バージョンを表示
+
+終了ステータス: 0 完了、1 失敗、2 コマンドラインの誤り、3 Quilloが起動していない。
+</translation>
+    </message>
+    <message>
+        <source>--json belongs to the command status.</source>
+        <translation>--jsonはコマンドstatusで使います。</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;.</source>
+        <translation>コマンド「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>transcribe takes one file.</source>
+        <translation>transcribeにはファイルを1つ指定します。</translation>
+    </message>
+    <message>
+        <source>%1 takes no argument.</source>
+        <translation>%1に引数はありません。</translation>
+    </message>
+    <message>
+        <source>Take over what can be read in a damaged history</source>
+        <translation>壊れた履歴から読める項目を取り込む</translation>
+    </message>
+    <message>
+        <source>--recover belongs to the command history.</source>
+        <translation>--recoverはコマンドhistoryで使います。</translation>
+    </message>
 </context>
 <context>
     <name>CopyPill</name>
@@ -151,6 +266,25 @@
     </message>
 </context>
 <context>
+    <name>Display</name>
+    <message>
+        <source>QUILLO_PLATFORM is &quot;%1&quot;; it can be x11 or wayland.</source>
+        <translation>QUILLO_PLATFORMが「%1」です。x11かwaylandを指定してください。</translation>
+    </message>
+    <message>
+        <source>Wayland sessions are not supported yet. Log in to an X11 session, or try QUILLO_PLATFORM=x11, which reaches only the programs that run through Xwayland.</source>
+        <translation>Waylandセッションにはまだ対応していません。X11セッションにログインするか、QUILLO_PLATFORM=x11（X11プログラムのみ）を試してください。</translation>
+    </message>
+    <message>
+        <source>There is no X11 display (DISPLAY is not set).</source>
+        <translation>X11ディスプレイがありません（DISPLAYが未設定）。</translation>
+    </message>
+    <message>
+        <source>The X11 display %1 can&apos;t be reached.</source>
+        <translation>X11ディスプレイ%1に接続できません。</translation>
+    </message>
+</context>
+<context>
     <name>EntryList</name>
     <message>
         <source>Entries</source>
@@ -178,6 +312,389 @@
     <message>
         <source>Delete</source>
         <translation>削除</translation>
+    </message>
+</context>
+<context>
+    <name>Finding</name>
+    <message>
+        <source>there is no X server at $DISPLAY</source>
+        <translation>$DISPLAYにXサーバーがありません</translation>
+    </message>
+    <message>
+        <source>the X server has no keyboard extension (XKB)</source>
+        <translation>Xサーバーにキーボード拡張（XKB）がありません</translation>
+    </message>
+    <message>
+        <source>the X server has no XFIXES extension</source>
+        <translation>XサーバーにXFIXES拡張がありません</translation>
+    </message>
+    <message>
+        <source>Raw keys</source>
+        <translation>単独キー</translation>
+    </message>
+    <message>
+        <source>no XInput 2.2: the dictation shortcut is a single key</source>
+        <translation>XInput 2.2がありません: ショートカットが単独キーです</translation>
+    </message>
+    <message>
+        <source>choose a key combination in the settings</source>
+        <translation>設定でキーの組み合わせを選ぶ</translation>
+    </message>
+    <message>
+        <source>no XInput 2.2: a single key can&apos;t be a shortcut</source>
+        <translation>XInput 2.2がありません: 単独キーは使えません</translation>
+    </message>
+    <message>
+        <source>use a key combination</source>
+        <translation>キーの組み合わせを使う</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>キーボード</translation>
+    </message>
+    <message>
+        <source>no XKB</source>
+        <translation>XKBなし</translation>
+    </message>
+    <message>
+        <source>enable the X server&apos;s XKEYBOARD extension</source>
+        <translation>XサーバーのXKEYBOARD拡張を有効にする</translation>
+    </message>
+    <message>
+        <source>Key posting</source>
+        <translation>キー送信</translation>
+    </message>
+    <message>
+        <source>no XTEST: text is copied, not pasted</source>
+        <translation>XTESTなし: 貼り付けずにコピーします</translation>
+    </message>
+    <message>
+        <source>paste with Ctrl+V, or enable the X server&apos;s XTEST extension</source>
+        <translation>Ctrl+Vで貼り付けるか、XサーバーのXTEST拡張を有効にする</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>クリップボード</translation>
+    </message>
+    <message>
+        <source>no XFIXES</source>
+        <translation>XFIXESなし</translation>
+    </message>
+    <message>
+        <source>enable the X server&apos;s XFIXES extension</source>
+        <translation>XサーバーのXFIXES拡張を有効にする</translation>
+    </message>
+    <message>
+        <source>Display server</source>
+        <translation>ディスプレイサーバー</translation>
+    </message>
+    <message>
+        <source>log in to an X11 session</source>
+        <translation>X11セッションにログイン</translation>
+    </message>
+    <message>
+        <source>X11 (%1), backend x11</source>
+        <translation>X11（%1）、バックエンドx11</translation>
+    </message>
+    <message>
+        <source>Window manager</source>
+        <translation>ウィンドウマネージャー</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <translation>あり</translation>
+    </message>
+    <message>
+        <source>none: windows may not come to the front</source>
+        <translation>なし: ウィンドウが前面に来ないことがあります</translation>
+    </message>
+    <message>
+        <source>start a window manager</source>
+        <translation>ウィンドウマネージャーを起動</translation>
+    </message>
+    <message>
+        <source>Compositor</source>
+        <translation>コンポジター</translation>
+    </message>
+    <message>
+        <source>none: the status panel has hard edges</source>
+        <translation>なし: パネルの縁が粗くなります</translation>
+    </message>
+    <message>
+        <source>XEmbed tray</source>
+        <translation>XEmbedトレイ</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V does not paste in it</source>
+        <translation>Ctrl+Shift+Vで貼り付けられません</translation>
+    </message>
+    <message>
+        <source>add to ~/.Xresources and load it with xrdb -merge: %1</source>
+        <translation>~/.Xresourcesに追加し、xrdb -mergeで読み込む: %1</translation>
+    </message>
+    <message>
+        <source>Sound server</source>
+        <translation>サウンドサーバー</translation>
+    </message>
+    <message>
+        <source>refuses access</source>
+        <translation>アクセスを拒否</translation>
+    </message>
+    <message>
+        <source>allow Quillo to record in the sandbox or sound settings</source>
+        <translation>サンドボックスまたはサウンド設定でQuilloの録音を許可</translation>
+    </message>
+    <message>
+        <source>not running</source>
+        <translation>起動していません</translation>
+    </message>
+    <message>
+        <source>start PulseAudio or PipeWire (pipewire-pulse)</source>
+        <translation>PulseAudioかPipeWire（pipewire-pulse）を起動</translation>
+    </message>
+    <message>
+        <source>Microphone level</source>
+        <translation>マイクの音量</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be recorded</source>
+        <translation>録音できません</translation>
+    </message>
+    <message>
+        <source>choose another input device</source>
+        <translation>別の入力デバイスを選ぶ</translation>
+    </message>
+    <message>
+        <source>silent</source>
+        <translation>無音</translation>
+    </message>
+    <message>
+        <source>unmute the input device in the sound settings</source>
+        <translation>サウンド設定でミュートを解除</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>マイク</translation>
+    </message>
+    <message>
+        <source>no input device</source>
+        <translation>入力デバイスなし</translation>
+    </message>
+    <message>
+        <source>connect a microphone, or choose one in the sound settings</source>
+        <translation>マイクを接続するか、サウンド設定で選ぶ</translation>
+    </message>
+    <message>
+        <source>Keyring</source>
+        <translation>キーリング</translation>
+    </message>
+    <message>
+        <source>absent: no Secret Service on the session bus</source>
+        <translation>なし: セッションバスにSecret Serviceがありません</translation>
+    </message>
+    <message>
+        <source>install and start GNOME Keyring, KWallet or KeePassXC; until then the credential is kept in memory and each start is a new device</source>
+        <translation>GNOME Keyring、KWallet、KeePassXCのいずれかを導入して起動。それまで資格情報はメモリにのみ保持され、起動ごとに新しいデバイスになります</translation>
+    </message>
+    <message>
+        <source>there, without a default keyring</source>
+        <translation>あり、既定のキーリングなし</translation>
+    </message>
+    <message>
+        <source>it is made when Quillo first stores its credential</source>
+        <translation>Quilloが最初に資格情報を保存するときに作られます</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>ロック中</translation>
+    </message>
+    <message>
+        <source>unlock the login keyring; until then the credential is kept in memory and each start is a new device</source>
+        <translation>ログインキーリングのロックを解除。それまで資格情報はメモリにのみ保持され、起動ごとに新しいデバイスになります</translation>
+    </message>
+    <message>
+        <source>usable</source>
+        <translation>使用可</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>設定ファイル</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read or written</source>
+        <translation>%1を読み書きできません</translation>
+    </message>
+    <message>
+        <source>make it yours: chown and chmod u+rw</source>
+        <translation>所有者を自分にする: chownとchmod u+rw</translation>
+    </message>
+    <message>
+        <source>%1 is damaged: what can&apos;t be read counts as not set</source>
+        <translation>%1が壊れています: 読めない部分は未設定として扱います</translation>
+    </message>
+    <message>
+        <source>mend the file or move it away</source>
+        <translation>ファイルを直すか移動する</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>トレイ</translation>
+    </message>
+    <message>
+        <source>none on this desktop</source>
+        <translation>このデスクトップにはありません</translation>
+    </message>
+    <message>
+        <source>start quillo again for the history, use its commands (quillo --help), or add a tray to the panel</source>
+        <translation>もう一度quilloを起動して履歴を表示、コマンド（quillo --help）を使う、またはパネルにトレイを追加</translation>
+    </message>
+    <message>
+        <source>choose another one in the settings</source>
+        <translation>設定で別のものを選ぶ</translation>
+    </message>
+    <message>
+        <source>Hot keys</source>
+        <translation>ショートカット</translation>
+    </message>
+    <message>
+        <source>the running Quillo does not answer</source>
+        <translation>起動中のQuilloが応答しません</translation>
+    </message>
+    <message>
+        <source>end it and start it again</source>
+        <translation>終了して起動し直す</translation>
+    </message>
+    <message>
+        <source>Hot key</source>
+        <translation>ショートカット</translation>
+    </message>
+    <message>
+        <source>held by the running Quillo</source>
+        <translation>起動中のQuilloが使用</translation>
+    </message>
+    <message>
+        <source>Session bus</source>
+        <translation>セッションバス</translation>
+    </message>
+    <message>
+        <source>none: no tray item, no keyring, no commands</source>
+        <translation>なし: トレイ、キーリング、コマンドが使えません</translation>
+    </message>
+    <message>
+        <source>log in through a desktop session, or start one with dbus-run-session</source>
+        <translation>デスクトップセッションでログインするか、dbus-run-sessionで起動</translation>
+    </message>
+    <message>
+        <source>there; Quillo is running</source>
+        <translation>あり。Quilloは起動中</translation>
+    </message>
+    <message>
+        <source>there; Quillo isn&apos;t running</source>
+        <translation>あり。Quilloは起動していません</translation>
+    </message>
+    <message>
+        <source>%1 is free</source>
+        <translation>%1は空いています</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program</source>
+        <translation>%1は他のプログラムが使用</translation>
+    </message>
+    <message>
+        <source>not tried: %1</source>
+        <translation>未確認: %1</translation>
+    </message>
+    <message>
+        <source>Backend</source>
+        <translation>サーバー</translation>
+    </message>
+    <message>
+        <source>no usable address</source>
+        <translation>有効なアドレスがありません</translation>
+    </message>
+    <message>
+        <source>set apiURL in %1</source>
+        <translation>%1でapiURLを設定</translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation>%1が応答しません</translation>
+    </message>
+    <message>
+        <source>check the network; a server of your own is started with quillo-backend</source>
+        <translation>ネットワークを確認。自分のサーバーはquillo-backendで起動</translation>
+    </message>
+    <message>
+        <source>%1 answers</source>
+        <translation>%1が応答</translation>
+    </message>
+    <message>
+        <source>%1 answers %2, which no Quillo backend does</source>
+        <translation>%1の応答%2はQuilloのサーバーのものではありません</translation>
+    </message>
+    <message>
+        <source>check apiURL in %1</source>
+        <translation>%1のapiURLを確認</translation>
+    </message>
+    <message>
+        <source>Consent</source>
+        <translation>同意</translation>
+    </message>
+    <message>
+        <source>given</source>
+        <translation>同意済み</translation>
+    </message>
+    <message>
+        <source>not given: dictation stays off</source>
+        <translation>未同意: 音声入力はオフ</translation>
+    </message>
+    <message>
+        <source>start Quillo and agree</source>
+        <translation>Quilloを起動して同意</translation>
+    </message>
+    <message>
+        <source>Fonts</source>
+        <translation>フォント</translation>
+    </message>
+    <message>
+        <source>Liberation Sans is missing: another face stands in</source>
+        <translation>Liberation Sansがないため、別の書体で代用</translation>
+    </message>
+    <message>
+        <source>install fonts-liberation</source>
+        <translation>fonts-liberationをインストール</translation>
+    </message>
+    <message>
+        <source>Liberation Sans; the system serif stands in for Fraunces</source>
+        <translation>Liberation Sans。Frauncesはシステムのセリフ体で代用</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <source>MISSING</source>
+        <translation>不足</translation>
+    </message>
+    <message>
+        <source>
+Dictation can work here.
+</source>
+        <translation>
+ここで音声入力が使えます。
+</translation>
+    </message>
+    <message>
+        <source>
+Dictation can&apos;t work here yet.
+</source>
+        <translation>
+ここではまだ音声入力が使えません。
+</translation>
     </message>
 </context>
 <context>
@@ -319,6 +836,96 @@
     </message>
 </context>
 <context>
+    <name>Instance</name>
+    <message>
+        <source>There is no session bus (DBUS_SESSION_BUS_ADDRESS), so Quillo can&apos;t be reached.</source>
+        <translation>セッションバス（DBUS_SESSION_BUS_ADDRESS）がないため、Quilloに接続できません。</translation>
+    </message>
+    <message>
+        <source>Quillo isn&apos;t running. Start it with: quillo</source>
+        <translation>Quilloは起動していません。起動するには: quillo</translation>
+    </message>
+    <message>
+        <source>Quillo refused: %1</source>
+        <translation>Quilloが拒否しました: %1</translation>
+    </message>
+    <message>
+        <source>Quillo did not answer: %1</source>
+        <translation>Quilloが応答しませんでした: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalizedError</name>
+    <message>
+        <source>%1 is no sound file that can be read.</source>
+        <translation>%1は読み取れる音声ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>There is no sound in %1.</source>
+        <translation>%1に音声がありません。</translation>
+    </message>
+    <message>
+        <source>The sound of %1 can&apos;t be decoded.</source>
+        <translation>%1の音声をデコードできません。</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>停止しました。</translation>
+    </message>
+    <message>
+        <source>The sound of %1 can&apos;t be converted.</source>
+        <translation>%1の音声を変換できません。</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>ファイル%1はありません。</translation>
+    </message>
+    <message>
+        <source>The converted recording can&apos;t be written.</source>
+        <translation>変換した録音を書き込めません。</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t start the microphone.</source>
+        <translation>マイクを開始できませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>RecoverHistory</name>
+    <message>
+        <source>%1 can&apos;t be read.</source>
+        <translation>%1を読み取れません。</translation>
+    </message>
+    <message>
+        <source>The history can&apos;t be saved: %1</source>
+        <translation>履歴を保存できません: %1</translation>
+    </message>
+    <message>
+        <source>1 entry taken over.
+</source>
+        <translation>1件を取り込みました。
+</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries taken over.
+</source>
+        <translation>
+            <numerusform>%Ln件を取り込みました。
+</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RemoteControl</name>
+    <message>
+        <source>unmetered</source>
+        <translation>無制限</translation>
+    </message>
+    <message>
+        <source>There is no action &quot;%1&quot;.</source>
+        <translation>アクション「%1」はありません。</translation>
+    </message>
+</context>
+<context>
     <name>SearchField</name>
     <message>
         <source>Search transcriptions</source>
@@ -427,6 +1034,99 @@
     <message>
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>入力の妨げにならないよう、Ctrl、Alt、Superのいずれかを加えるか、Fキーを使ってください。</translation>
+    </message>
+</context>
+<context>
+    <name>Start</name>
+    <message>
+        <source>There is no session bus: no tray item but XEmbed&apos;s, no keyring, and commands can&apos;t reach Quillo.</source>
+        <translation>セッションバスがありません: トレイはXEmbedのみ、キーリングなし、コマンドはQuilloに届きません。</translation>
+    </message>
+    <message>
+        <source>%1 See: quillo --help</source>
+        <translation>%1 参照: quillo --help</translation>
+    </message>
+</context>
+<context>
+    <name>Status</name>
+    <message>
+        <source>yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>unmetered</source>
+        <translation>無制限</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>まだ不明</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>All entries</source>
+        <translation>すべての項目</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>トークン</translation>
+    </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>文字起こし</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>マイク</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>アクセシビリティ</translation>
+    </message>
+    <message>
+        <source>Consent</source>
+        <translation>同意</translation>
+    </message>
+</context>
+<context>
+    <name>Transcribe</name>
+    <message>
+        <source>Standard input can&apos;t be read.</source>
+        <translation>標準入力を読み取れません。</translation>
+    </message>
+    <message>
+        <source>The temporary folder is full.</source>
+        <translation>一時フォルダーがいっぱいです。</translation>
+    </message>
+    <message>
+        <source>The temporary folder can&apos;t be written.</source>
+        <translation>一時フォルダーに書き込めません。</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>読み込み中…</translation>
+    </message>
+    <message>
+        <source>Reading… %1 %</source>
+        <translation>読み込み中… %1 %</translation>
+    </message>
+    <message>
+        <source>Transcribing… %1 s</source>
+        <translation>文字起こし中… %1 秒</translation>
+    </message>
+    <message>
+        <source>Transcribing…</source>
+        <translation>文字起こし中…</translation>
     </message>
 </context>
 </TS>

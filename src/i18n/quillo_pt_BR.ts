@@ -78,6 +78,121 @@
         <source>Something went wrong. Please try again.</source>
         <translation>Algo deu errado. Tente de novo.</translation>
     </message>
+    <message>
+        <source>Couldn&apos;t start the microphone.</source>
+        <translation>Não foi possível iniciar o microfone.</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Hold the dictation shortcut</source>
+        <translation>Segurar o atalho de ditado</translation>
+    </message>
+    <message>
+        <source>Let go of it</source>
+        <translation>Soltá-lo</translation>
+    </message>
+    <message>
+        <source>Start dictating, or finish and paste</source>
+        <translation>Começar a ditar, ou terminar e colar</translation>
+    </message>
+    <message>
+        <source>Drop the recording</source>
+        <translation>Descartar a gravação</translation>
+    </message>
+    <message>
+        <source>Show the history</source>
+        <translation>Mostrar o histórico</translation>
+    </message>
+    <message>
+        <source>Show the history with the group editor</source>
+        <translation>Mostrar o histórico com o editor de grupos</translation>
+    </message>
+    <message>
+        <source>Show the settings</source>
+        <translation>Mostrar as configurações</translation>
+    </message>
+    <message>
+        <source>Make the next group the current one</source>
+        <translation>Passar para o próximo grupo</translation>
+    </message>
+    <message>
+        <source>Open the page where tokens are bought</source>
+        <translation>Abrir a página de compra de tokens</translation>
+    </message>
+    <message>
+        <source>Print what the program is doing</source>
+        <translation>Mostrar o que o programa está fazendo</translation>
+    </message>
+    <message>
+        <source>End the program</source>
+        <translation>Encerrar o programa</translation>
+    </message>
+    <message>
+        <source>Print the text of a recording; - reads standard input</source>
+        <translation>Mostrar o texto de uma gravação; - lê a entrada padrão</translation>
+    </message>
+    <message>
+        <source>Print what this desktop offers for dictation, and what is missing</source>
+        <translation>Mostrar o que esta área de trabalho oferece para o ditado e o que falta</translation>
+    </message>
+    <message>
+        <source>Usage: quillo [COMMAND]
+
+Without a command Quillo starts, or shows its history if it runs already.
+Hold the dictation shortcut, speak, let go: the words appear in the program in front.
+
+Commands:
+</source>
+        <translation>Uso: quillo [COMANDO]
+
+Sem comando, o Quillo inicia, ou mostra seu histórico se já estiver em execução.
+Segure o atalho de ditado, fale e solte: as palavras aparecem no programa em primeiro plano.
+
+Comandos:
+</translation>
+    </message>
+    <message>
+        <source>
+Options:
+  -h, --help        Print this
+  -v, --version     Print the version
+
+Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t running.
+</source>
+        <translation>
+Opções:
+  -h, --help        Mostrar esta ajuda
+  -v, --version     Mostrar a versão
+
+Status de saída: 0 feito, 1 falhou, 2 linha de comando errada, 3 o Quillo não está em execução.
+</translation>
+    </message>
+    <message>
+        <source>--json belongs to the command status.</source>
+        <translation>--json pertence ao comando status.</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;.</source>
+        <translation>Não existe o comando “%1”.</translation>
+    </message>
+    <message>
+        <source>transcribe takes one file.</source>
+        <translation>transcribe recebe um arquivo.</translation>
+    </message>
+    <message>
+        <source>%1 takes no argument.</source>
+        <translation>%1 não recebe argumento.</translation>
+    </message>
+    <message>
+        <source>Take over what can be read in a damaged history</source>
+        <translation>Recuperar o que é legível de um histórico danificado</translation>
+    </message>
+    <message>
+        <source>--recover belongs to the command history.</source>
+        <translation>--recover pertence ao comando history.</translation>
+    </message>
 </context>
 <context>
     <name>CopyPill</name>
@@ -154,6 +269,25 @@
     </message>
 </context>
 <context>
+    <name>Display</name>
+    <message>
+        <source>QUILLO_PLATFORM is &quot;%1&quot;; it can be x11 or wayland.</source>
+        <translation>QUILLO_PLATFORM é “%1”; pode ser x11 ou wayland.</translation>
+    </message>
+    <message>
+        <source>Wayland sessions are not supported yet. Log in to an X11 session, or try QUILLO_PLATFORM=x11, which reaches only the programs that run through Xwayland.</source>
+        <translation>Sessões Wayland ainda não são suportadas. Entre em uma sessão X11 ou tente QUILLO_PLATFORM=x11, que só alcança programas X11.</translation>
+    </message>
+    <message>
+        <source>There is no X11 display (DISPLAY is not set).</source>
+        <translation>Não há tela X11 (DISPLAY não está definida).</translation>
+    </message>
+    <message>
+        <source>The X11 display %1 can&apos;t be reached.</source>
+        <translation>Não é possível acessar a tela X11 %1.</translation>
+    </message>
+</context>
+<context>
     <name>EntryList</name>
     <message>
         <source>Entries</source>
@@ -181,6 +315,389 @@
     <message>
         <source>Delete</source>
         <translation>Excluir</translation>
+    </message>
+</context>
+<context>
+    <name>Finding</name>
+    <message>
+        <source>there is no X server at $DISPLAY</source>
+        <translation>não há servidor X em $DISPLAY</translation>
+    </message>
+    <message>
+        <source>the X server has no keyboard extension (XKB)</source>
+        <translation>o servidor X não tem extensão de teclado (XKB)</translation>
+    </message>
+    <message>
+        <source>the X server has no XFIXES extension</source>
+        <translation>o servidor X não tem a extensão XFIXES</translation>
+    </message>
+    <message>
+        <source>Raw keys</source>
+        <translation>Teclas avulsas</translation>
+    </message>
+    <message>
+        <source>no XInput 2.2: the dictation shortcut is a single key</source>
+        <translation>sem XInput 2.2: o atalho de ditado é uma única tecla</translation>
+    </message>
+    <message>
+        <source>choose a key combination in the settings</source>
+        <translation>escolha uma combinação de teclas nas configurações</translation>
+    </message>
+    <message>
+        <source>no XInput 2.2: a single key can&apos;t be a shortcut</source>
+        <translation>sem XInput 2.2: uma única tecla não pode ser um atalho</translation>
+    </message>
+    <message>
+        <source>use a key combination</source>
+        <translation>use uma combinação de teclas</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Teclado</translation>
+    </message>
+    <message>
+        <source>no XKB</source>
+        <translation>sem XKB</translation>
+    </message>
+    <message>
+        <source>enable the X server&apos;s XKEYBOARD extension</source>
+        <translation>ative a extensão XKEYBOARD do servidor X</translation>
+    </message>
+    <message>
+        <source>Key posting</source>
+        <translation>Envio de teclas</translation>
+    </message>
+    <message>
+        <source>no XTEST: text is copied, not pasted</source>
+        <translation>sem XTEST: o texto é copiado, não colado</translation>
+    </message>
+    <message>
+        <source>paste with Ctrl+V, or enable the X server&apos;s XTEST extension</source>
+        <translation>cole com Ctrl+V ou ative a extensão XTEST do servidor X</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>Área de transferência</translation>
+    </message>
+    <message>
+        <source>no XFIXES</source>
+        <translation>sem XFIXES</translation>
+    </message>
+    <message>
+        <source>enable the X server&apos;s XFIXES extension</source>
+        <translation>ative a extensão XFIXES do servidor X</translation>
+    </message>
+    <message>
+        <source>Display server</source>
+        <translation>Servidor gráfico</translation>
+    </message>
+    <message>
+        <source>log in to an X11 session</source>
+        <translation>entre em uma sessão X11</translation>
+    </message>
+    <message>
+        <source>X11 (%1), backend x11</source>
+        <translation>X11 (%1), módulo x11</translation>
+    </message>
+    <message>
+        <source>Window manager</source>
+        <translation>Gerenciador de janelas</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <translation>presente</translation>
+    </message>
+    <message>
+        <source>none: windows may not come to the front</source>
+        <translation>nenhum: as janelas podem não vir para a frente</translation>
+    </message>
+    <message>
+        <source>start a window manager</source>
+        <translation>inicie um gerenciador de janelas</translation>
+    </message>
+    <message>
+        <source>Compositor</source>
+        <translation>Compositor</translation>
+    </message>
+    <message>
+        <source>none: the status panel has hard edges</source>
+        <translation>nenhum: o painel tem bordas duras</translation>
+    </message>
+    <message>
+        <source>XEmbed tray</source>
+        <translation>Bandeja XEmbed</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V does not paste in it</source>
+        <translation>Ctrl+Shift+V não cola nele</translation>
+    </message>
+    <message>
+        <source>add to ~/.Xresources and load it with xrdb -merge: %1</source>
+        <translation>adicione a ~/.Xresources e carregue com xrdb -merge: %1</translation>
+    </message>
+    <message>
+        <source>Sound server</source>
+        <translation>Servidor de som</translation>
+    </message>
+    <message>
+        <source>refuses access</source>
+        <translation>recusa o acesso</translation>
+    </message>
+    <message>
+        <source>allow Quillo to record in the sandbox or sound settings</source>
+        <translation>permita que o Quillo grave nas configurações de isolamento ou de som</translation>
+    </message>
+    <message>
+        <source>not running</source>
+        <translation>não está em execução</translation>
+    </message>
+    <message>
+        <source>start PulseAudio or PipeWire (pipewire-pulse)</source>
+        <translation>inicie o PulseAudio ou o PipeWire (pipewire-pulse)</translation>
+    </message>
+    <message>
+        <source>Microphone level</source>
+        <translation>Nível do microfone</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be recorded</source>
+        <translation>não é possível gravar</translation>
+    </message>
+    <message>
+        <source>choose another input device</source>
+        <translation>escolha outro dispositivo de entrada</translation>
+    </message>
+    <message>
+        <source>silent</source>
+        <translation>em silêncio</translation>
+    </message>
+    <message>
+        <source>unmute the input device in the sound settings</source>
+        <translation>desative o mudo nas configurações de som</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microfone</translation>
+    </message>
+    <message>
+        <source>no input device</source>
+        <translation>sem dispositivo de entrada</translation>
+    </message>
+    <message>
+        <source>connect a microphone, or choose one in the sound settings</source>
+        <translation>conecte um microfone ou escolha um nas configurações de som</translation>
+    </message>
+    <message>
+        <source>Keyring</source>
+        <translation>Chaveiro</translation>
+    </message>
+    <message>
+        <source>absent: no Secret Service on the session bus</source>
+        <translation>ausente: não há Secret Service no barramento de sessão</translation>
+    </message>
+    <message>
+        <source>install and start GNOME Keyring, KWallet or KeePassXC; until then the credential is kept in memory and each start is a new device</source>
+        <translation>instale e inicie o GNOME Keyring, o KWallet ou o KeePassXC; até lá a credencial fica na memória e cada início é um novo dispositivo</translation>
+    </message>
+    <message>
+        <source>there, without a default keyring</source>
+        <translation>presente, sem chaveiro padrão</translation>
+    </message>
+    <message>
+        <source>it is made when Quillo first stores its credential</source>
+        <translation>ele é criado quando o Quillo guarda sua credencial pela primeira vez</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>bloqueado</translation>
+    </message>
+    <message>
+        <source>unlock the login keyring; until then the credential is kept in memory and each start is a new device</source>
+        <translation>desbloqueie o chaveiro de login; até lá a credencial fica na memória e cada início é um novo dispositivo</translation>
+    </message>
+    <message>
+        <source>usable</source>
+        <translation>utilizável</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferências</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read or written</source>
+        <translation>%1 não pode ser lido ou gravado</translation>
+    </message>
+    <message>
+        <source>make it yours: chown and chmod u+rw</source>
+        <translation>torne-o seu: chown e chmod u+rw</translation>
+    </message>
+    <message>
+        <source>%1 is damaged: what can&apos;t be read counts as not set</source>
+        <translation>%1 está danificado: o ilegível conta como não definido</translation>
+    </message>
+    <message>
+        <source>mend the file or move it away</source>
+        <translation>conserte o arquivo ou mova-o</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>Bandeja</translation>
+    </message>
+    <message>
+        <source>none on this desktop</source>
+        <translation>nenhuma nesta área de trabalho</translation>
+    </message>
+    <message>
+        <source>start quillo again for the history, use its commands (quillo --help), or add a tray to the panel</source>
+        <translation>inicie o quillo de novo para ver o histórico, use os comandos (quillo --help) ou adicione uma bandeja ao painel</translation>
+    </message>
+    <message>
+        <source>choose another one in the settings</source>
+        <translation>escolha outro nas configurações</translation>
+    </message>
+    <message>
+        <source>Hot keys</source>
+        <translation>Atalhos</translation>
+    </message>
+    <message>
+        <source>the running Quillo does not answer</source>
+        <translation>o Quillo em execução não responde</translation>
+    </message>
+    <message>
+        <source>end it and start it again</source>
+        <translation>encerre e inicie de novo</translation>
+    </message>
+    <message>
+        <source>Hot key</source>
+        <translation>Atalho</translation>
+    </message>
+    <message>
+        <source>held by the running Quillo</source>
+        <translation>em uso pelo Quillo em execução</translation>
+    </message>
+    <message>
+        <source>Session bus</source>
+        <translation>Barramento de sessão</translation>
+    </message>
+    <message>
+        <source>none: no tray item, no keyring, no commands</source>
+        <translation>nenhum: sem ícone, sem chaveiro, sem comandos</translation>
+    </message>
+    <message>
+        <source>log in through a desktop session, or start one with dbus-run-session</source>
+        <translation>entre por uma sessão gráfica ou inicie uma com dbus-run-session</translation>
+    </message>
+    <message>
+        <source>there; Quillo is running</source>
+        <translation>presente; o Quillo está em execução</translation>
+    </message>
+    <message>
+        <source>there; Quillo isn&apos;t running</source>
+        <translation>presente; o Quillo não está em execução</translation>
+    </message>
+    <message>
+        <source>%1 is free</source>
+        <translation>%1 está livre</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program</source>
+        <translation>%1 está em uso por outro programa</translation>
+    </message>
+    <message>
+        <source>not tried: %1</source>
+        <translation>não testado: %1</translation>
+    </message>
+    <message>
+        <source>Backend</source>
+        <translation>Servidor</translation>
+    </message>
+    <message>
+        <source>no usable address</source>
+        <translation>sem endereço utilizável</translation>
+    </message>
+    <message>
+        <source>set apiURL in %1</source>
+        <translation>defina apiURL em %1</translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation>%1 não responde</translation>
+    </message>
+    <message>
+        <source>check the network; a server of your own is started with quillo-backend</source>
+        <translation>verifique a rede; um servidor próprio é iniciado com quillo-backend</translation>
+    </message>
+    <message>
+        <source>%1 answers</source>
+        <translation>%1 responde</translation>
+    </message>
+    <message>
+        <source>%1 answers %2, which no Quillo backend does</source>
+        <translation>%1 responde %2, o que nenhum servidor do Quillo faz</translation>
+    </message>
+    <message>
+        <source>check apiURL in %1</source>
+        <translation>verifique apiURL em %1</translation>
+    </message>
+    <message>
+        <source>Consent</source>
+        <translation>Consentimento</translation>
+    </message>
+    <message>
+        <source>given</source>
+        <translation>dado</translation>
+    </message>
+    <message>
+        <source>not given: dictation stays off</source>
+        <translation>não dado: o ditado fica desligado</translation>
+    </message>
+    <message>
+        <source>start Quillo and agree</source>
+        <translation>inicie o Quillo e concorde</translation>
+    </message>
+    <message>
+        <source>Fonts</source>
+        <translation>Fontes</translation>
+    </message>
+    <message>
+        <source>Liberation Sans is missing: another face stands in</source>
+        <translation>falta a Liberation Sans: outra fonte a substitui</translation>
+    </message>
+    <message>
+        <source>install fonts-liberation</source>
+        <translation>instale fonts-liberation</translation>
+    </message>
+    <message>
+        <source>Liberation Sans; the system serif stands in for Fraunces</source>
+        <translation>Liberation Sans; a serifada do sistema substitui a Fraunces</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>nota</translation>
+    </message>
+    <message>
+        <source>MISSING</source>
+        <translation>FALTA</translation>
+    </message>
+    <message>
+        <source>
+Dictation can work here.
+</source>
+        <translation>
+O ditado pode funcionar aqui.
+</translation>
+    </message>
+    <message>
+        <source>
+Dictation can&apos;t work here yet.
+</source>
+        <translation>
+O ditado ainda não pode funcionar aqui.
+</translation>
     </message>
 </context>
 <context>
@@ -323,6 +840,98 @@
     </message>
 </context>
 <context>
+    <name>Instance</name>
+    <message>
+        <source>There is no session bus (DBUS_SESSION_BUS_ADDRESS), so Quillo can&apos;t be reached.</source>
+        <translation>Não há barramento de sessão (DBUS_SESSION_BUS_ADDRESS), então não é possível falar com o Quillo.</translation>
+    </message>
+    <message>
+        <source>Quillo isn&apos;t running. Start it with: quillo</source>
+        <translation>O Quillo não está em execução. Inicie com: quillo</translation>
+    </message>
+    <message>
+        <source>Quillo refused: %1</source>
+        <translation>O Quillo recusou: %1</translation>
+    </message>
+    <message>
+        <source>Quillo did not answer: %1</source>
+        <translation>O Quillo não respondeu: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalizedError</name>
+    <message>
+        <source>%1 is no sound file that can be read.</source>
+        <translation>%1 não é um arquivo de som legível.</translation>
+    </message>
+    <message>
+        <source>There is no sound in %1.</source>
+        <translation>Não há som em %1.</translation>
+    </message>
+    <message>
+        <source>The sound of %1 can&apos;t be decoded.</source>
+        <translation>Não é possível decodificar o som de %1.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Interrompido.</translation>
+    </message>
+    <message>
+        <source>The sound of %1 can&apos;t be converted.</source>
+        <translation>Não é possível converter o som de %1.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>O arquivo %1 não existe.</translation>
+    </message>
+    <message>
+        <source>The converted recording can&apos;t be written.</source>
+        <translation>Não é possível gravar a gravação convertida.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t start the microphone.</source>
+        <translation>Não foi possível iniciar o microfone.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoverHistory</name>
+    <message>
+        <source>%1 can&apos;t be read.</source>
+        <translation>Não é possível ler %1.</translation>
+    </message>
+    <message>
+        <source>The history can&apos;t be saved: %1</source>
+        <translation>Não é possível salvar o histórico: %1</translation>
+    </message>
+    <message>
+        <source>1 entry taken over.
+</source>
+        <translation>1 entrada recuperada.
+</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries taken over.
+</source>
+        <translation>
+            <numerusform>%Ln entrada recuperada.
+</numerusform>
+            <numerusform>%Ln entradas recuperadas.
+</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RemoteControl</name>
+    <message>
+        <source>unmetered</source>
+        <translation>sem limite</translation>
+    </message>
+    <message>
+        <source>There is no action &quot;%1&quot;.</source>
+        <translation>Não existe a ação “%1”.</translation>
+    </message>
+</context>
+<context>
     <name>SearchField</name>
     <message>
         <source>Search transcriptions</source>
@@ -431,6 +1040,99 @@
     <message>
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>Adicione Ctrl, Alt ou Super — ou use uma tecla F — para não atrapalhar a digitação.</translation>
+    </message>
+</context>
+<context>
+    <name>Start</name>
+    <message>
+        <source>There is no session bus: no tray item but XEmbed&apos;s, no keyring, and commands can&apos;t reach Quillo.</source>
+        <translation>Não há barramento de sessão: sem ícone além do XEmbed, sem chaveiro, e os comandos não chegam ao Quillo.</translation>
+    </message>
+    <message>
+        <source>%1 See: quillo --help</source>
+        <translation>%1 Veja: quillo --help</translation>
+    </message>
+</context>
+<context>
+    <name>Status</name>
+    <message>
+        <source>yes</source>
+        <translation>sim</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>não</translation>
+    </message>
+    <message>
+        <source>unmetered</source>
+        <translation>sem limite</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>ainda desconhecido</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>All entries</source>
+        <translation>Todas as entradas</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>Tokens</translation>
+    </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>Transcrições</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microfone</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Acessibilidade</translation>
+    </message>
+    <message>
+        <source>Consent</source>
+        <translation>Consentimento</translation>
+    </message>
+</context>
+<context>
+    <name>Transcribe</name>
+    <message>
+        <source>Standard input can&apos;t be read.</source>
+        <translation>Não é possível ler a entrada padrão.</translation>
+    </message>
+    <message>
+        <source>The temporary folder is full.</source>
+        <translation>A pasta temporária está cheia.</translation>
+    </message>
+    <message>
+        <source>The temporary folder can&apos;t be written.</source>
+        <translation>Não é possível gravar na pasta temporária.</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Lendo…</translation>
+    </message>
+    <message>
+        <source>Reading… %1 %</source>
+        <translation>Lendo… %1 %</translation>
+    </message>
+    <message>
+        <source>Transcribing… %1 s</source>
+        <translation>Transcrevendo… %1 s</translation>
+    </message>
+    <message>
+        <source>Transcribing…</source>
+        <translation>Transcrevendo…</translation>
     </message>
 </context>
 </TS>

@@ -75,6 +75,121 @@
         <source>Something went wrong. Please try again.</source>
         <translation>出了点问题。请重试。</translation>
     </message>
+    <message>
+        <source>Couldn&apos;t start the microphone.</source>
+        <translation>无法启动麦克风。</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Hold the dictation shortcut</source>
+        <translation>按住听写快捷键</translation>
+    </message>
+    <message>
+        <source>Let go of it</source>
+        <translation>松开</translation>
+    </message>
+    <message>
+        <source>Start dictating, or finish and paste</source>
+        <translation>开始听写，或结束并粘贴</translation>
+    </message>
+    <message>
+        <source>Drop the recording</source>
+        <translation>丢弃录音</translation>
+    </message>
+    <message>
+        <source>Show the history</source>
+        <translation>显示历史记录</translation>
+    </message>
+    <message>
+        <source>Show the history with the group editor</source>
+        <translation>显示历史记录和群组编辑器</translation>
+    </message>
+    <message>
+        <source>Show the settings</source>
+        <translation>显示设置</translation>
+    </message>
+    <message>
+        <source>Make the next group the current one</source>
+        <translation>切换到下一群组</translation>
+    </message>
+    <message>
+        <source>Open the page where tokens are bought</source>
+        <translation>打开购买令牌的页面</translation>
+    </message>
+    <message>
+        <source>Print what the program is doing</source>
+        <translation>显示程序当前状态</translation>
+    </message>
+    <message>
+        <source>End the program</source>
+        <translation>结束程序</translation>
+    </message>
+    <message>
+        <source>Print the text of a recording; - reads standard input</source>
+        <translation>输出录音的文字；- 表示标准输入</translation>
+    </message>
+    <message>
+        <source>Print what this desktop offers for dictation, and what is missing</source>
+        <translation>显示此桌面为听写提供了什么、缺少什么</translation>
+    </message>
+    <message>
+        <source>Usage: quillo [COMMAND]
+
+Without a command Quillo starts, or shows its history if it runs already.
+Hold the dictation shortcut, speak, let go: the words appear in the program in front.
+
+Commands:
+</source>
+        <translation>用法：quillo [命令]
+
+不带命令时启动 Quillo；如果已在运行，则显示历史记录。
+按住听写快捷键说话，松开后文字出现在前台程序中。
+
+命令：
+</translation>
+    </message>
+    <message>
+        <source>
+Options:
+  -h, --help        Print this
+  -v, --version     Print the version
+
+Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t running.
+</source>
+        <translation>
+选项：
+  -h, --help        显示此帮助
+  -v, --version     显示版本
+
+退出状态：0 完成，1 失败，2 命令行有误，3 Quillo 未运行。
+</translation>
+    </message>
+    <message>
+        <source>--json belongs to the command status.</source>
+        <translation>--json 只能用于命令 status。</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;.</source>
+        <translation>没有命令“%1”。</translation>
+    </message>
+    <message>
+        <source>transcribe takes one file.</source>
+        <translation>transcribe 需要一个文件。</translation>
+    </message>
+    <message>
+        <source>%1 takes no argument.</source>
+        <translation>%1 不带参数。</translation>
+    </message>
+    <message>
+        <source>Take over what can be read in a damaged history</source>
+        <translation>从损坏的历史记录中恢复可读内容</translation>
+    </message>
+    <message>
+        <source>--recover belongs to the command history.</source>
+        <translation>--recover 只能用于命令 history。</translation>
+    </message>
 </context>
 <context>
     <name>CopyPill</name>
@@ -151,6 +266,25 @@
     </message>
 </context>
 <context>
+    <name>Display</name>
+    <message>
+        <source>QUILLO_PLATFORM is &quot;%1&quot;; it can be x11 or wayland.</source>
+        <translation>QUILLO_PLATFORM 为“%1”；可以是 x11 或 wayland。</translation>
+    </message>
+    <message>
+        <source>Wayland sessions are not supported yet. Log in to an X11 session, or try QUILLO_PLATFORM=x11, which reaches only the programs that run through Xwayland.</source>
+        <translation>尚不支持 Wayland 会话。请登录 X11 会话，或尝试 QUILLO_PLATFORM=x11（仅限 X11 程序）。</translation>
+    </message>
+    <message>
+        <source>There is no X11 display (DISPLAY is not set).</source>
+        <translation>没有 X11 显示（未设置 DISPLAY）。</translation>
+    </message>
+    <message>
+        <source>The X11 display %1 can&apos;t be reached.</source>
+        <translation>无法连接 X11 显示 %1。</translation>
+    </message>
+</context>
+<context>
     <name>EntryList</name>
     <message>
         <source>Entries</source>
@@ -178,6 +312,389 @@
     <message>
         <source>Delete</source>
         <translation>删除</translation>
+    </message>
+</context>
+<context>
+    <name>Finding</name>
+    <message>
+        <source>there is no X server at $DISPLAY</source>
+        <translation>$DISPLAY 处没有 X 服务器</translation>
+    </message>
+    <message>
+        <source>the X server has no keyboard extension (XKB)</source>
+        <translation>X 服务器没有键盘扩展 (XKB)</translation>
+    </message>
+    <message>
+        <source>the X server has no XFIXES extension</source>
+        <translation>X 服务器没有 XFIXES 扩展</translation>
+    </message>
+    <message>
+        <source>Raw keys</source>
+        <translation>单键</translation>
+    </message>
+    <message>
+        <source>no XInput 2.2: the dictation shortcut is a single key</source>
+        <translation>没有 XInput 2.2：听写快捷键是单个按键</translation>
+    </message>
+    <message>
+        <source>choose a key combination in the settings</source>
+        <translation>请在设置中选择组合键</translation>
+    </message>
+    <message>
+        <source>no XInput 2.2: a single key can&apos;t be a shortcut</source>
+        <translation>没有 XInput 2.2：单个按键不能作为快捷键</translation>
+    </message>
+    <message>
+        <source>use a key combination</source>
+        <translation>请使用组合键</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>键盘</translation>
+    </message>
+    <message>
+        <source>no XKB</source>
+        <translation>没有 XKB</translation>
+    </message>
+    <message>
+        <source>enable the X server&apos;s XKEYBOARD extension</source>
+        <translation>启用 X 服务器的 XKEYBOARD 扩展</translation>
+    </message>
+    <message>
+        <source>Key posting</source>
+        <translation>按键发送</translation>
+    </message>
+    <message>
+        <source>no XTEST: text is copied, not pasted</source>
+        <translation>没有 XTEST：文字只复制不粘贴</translation>
+    </message>
+    <message>
+        <source>paste with Ctrl+V, or enable the X server&apos;s XTEST extension</source>
+        <translation>按 Ctrl+V 粘贴，或启用 X 服务器的 XTEST 扩展</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>剪贴板</translation>
+    </message>
+    <message>
+        <source>no XFIXES</source>
+        <translation>没有 XFIXES</translation>
+    </message>
+    <message>
+        <source>enable the X server&apos;s XFIXES extension</source>
+        <translation>启用 X 服务器的 XFIXES 扩展</translation>
+    </message>
+    <message>
+        <source>Display server</source>
+        <translation>显示服务器</translation>
+    </message>
+    <message>
+        <source>log in to an X11 session</source>
+        <translation>登录 X11 会话</translation>
+    </message>
+    <message>
+        <source>X11 (%1), backend x11</source>
+        <translation>X11 (%1)，后端 x11</translation>
+    </message>
+    <message>
+        <source>Window manager</source>
+        <translation>窗口管理器</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <translation>有</translation>
+    </message>
+    <message>
+        <source>none: windows may not come to the front</source>
+        <translation>没有：窗口可能无法到前台</translation>
+    </message>
+    <message>
+        <source>start a window manager</source>
+        <translation>启动窗口管理器</translation>
+    </message>
+    <message>
+        <source>Compositor</source>
+        <translation>合成器</translation>
+    </message>
+    <message>
+        <source>none: the status panel has hard edges</source>
+        <translation>没有：状态面板边缘不平滑</translation>
+    </message>
+    <message>
+        <source>XEmbed tray</source>
+        <translation>XEmbed 托盘</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V does not paste in it</source>
+        <translation>其中 Ctrl+Shift+V 不能粘贴</translation>
+    </message>
+    <message>
+        <source>add to ~/.Xresources and load it with xrdb -merge: %1</source>
+        <translation>添加到 ~/.Xresources 并用 xrdb -merge 载入：%1</translation>
+    </message>
+    <message>
+        <source>Sound server</source>
+        <translation>声音服务器</translation>
+    </message>
+    <message>
+        <source>refuses access</source>
+        <translation>拒绝访问</translation>
+    </message>
+    <message>
+        <source>allow Quillo to record in the sandbox or sound settings</source>
+        <translation>在沙盒或声音设置中允许 Quillo 录音</translation>
+    </message>
+    <message>
+        <source>not running</source>
+        <translation>未运行</translation>
+    </message>
+    <message>
+        <source>start PulseAudio or PipeWire (pipewire-pulse)</source>
+        <translation>启动 PulseAudio 或 PipeWire (pipewire-pulse)</translation>
+    </message>
+    <message>
+        <source>Microphone level</source>
+        <translation>麦克风音量</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be recorded</source>
+        <translation>无法录音</translation>
+    </message>
+    <message>
+        <source>choose another input device</source>
+        <translation>请选择其他输入设备</translation>
+    </message>
+    <message>
+        <source>silent</source>
+        <translation>无声</translation>
+    </message>
+    <message>
+        <source>unmute the input device in the sound settings</source>
+        <translation>在声音设置中取消静音</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>麦克风</translation>
+    </message>
+    <message>
+        <source>no input device</source>
+        <translation>没有输入设备</translation>
+    </message>
+    <message>
+        <source>connect a microphone, or choose one in the sound settings</source>
+        <translation>连接麦克风，或在声音设置中选择</translation>
+    </message>
+    <message>
+        <source>Keyring</source>
+        <translation>密钥环</translation>
+    </message>
+    <message>
+        <source>absent: no Secret Service on the session bus</source>
+        <translation>没有：会话总线上没有 Secret Service</translation>
+    </message>
+    <message>
+        <source>install and start GNOME Keyring, KWallet or KeePassXC; until then the credential is kept in memory and each start is a new device</source>
+        <translation>安装并启动 GNOME Keyring、KWallet 或 KeePassXC；在此之前凭据只保存在内存中，每次启动都是新设备</translation>
+    </message>
+    <message>
+        <source>there, without a default keyring</source>
+        <translation>有，但没有默认密钥环</translation>
+    </message>
+    <message>
+        <source>it is made when Quillo first stores its credential</source>
+        <translation>Quillo 首次保存凭据时会创建</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>已锁定</translation>
+    </message>
+    <message>
+        <source>unlock the login keyring; until then the credential is kept in memory and each start is a new device</source>
+        <translation>解锁登录密钥环；在此之前凭据只保存在内存中，每次启动都是新设备</translation>
+    </message>
+    <message>
+        <source>usable</source>
+        <translation>可用</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>首选项</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read or written</source>
+        <translation>%1 无法读取或写入</translation>
+    </message>
+    <message>
+        <source>make it yours: chown and chmod u+rw</source>
+        <translation>改为自己所有：chown 和 chmod u+rw</translation>
+    </message>
+    <message>
+        <source>%1 is damaged: what can&apos;t be read counts as not set</source>
+        <translation>%1 已损坏：无法读取的内容视为未设置</translation>
+    </message>
+    <message>
+        <source>mend the file or move it away</source>
+        <translation>修复文件或将其移走</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>托盘</translation>
+    </message>
+    <message>
+        <source>none on this desktop</source>
+        <translation>此桌面没有</translation>
+    </message>
+    <message>
+        <source>start quillo again for the history, use its commands (quillo --help), or add a tray to the panel</source>
+        <translation>再次启动 quillo 查看历史记录，使用其命令 (quillo --help)，或在面板中添加托盘</translation>
+    </message>
+    <message>
+        <source>choose another one in the settings</source>
+        <translation>请在设置中选择其他</translation>
+    </message>
+    <message>
+        <source>Hot keys</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>the running Quillo does not answer</source>
+        <translation>正在运行的 Quillo 没有应答</translation>
+    </message>
+    <message>
+        <source>end it and start it again</source>
+        <translation>结束后重新启动</translation>
+    </message>
+    <message>
+        <source>Hot key</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>held by the running Quillo</source>
+        <translation>由正在运行的 Quillo 使用</translation>
+    </message>
+    <message>
+        <source>Session bus</source>
+        <translation>会话总线</translation>
+    </message>
+    <message>
+        <source>none: no tray item, no keyring, no commands</source>
+        <translation>没有：无托盘图标、无密钥环、无命令</translation>
+    </message>
+    <message>
+        <source>log in through a desktop session, or start one with dbus-run-session</source>
+        <translation>通过桌面会话登录，或用 dbus-run-session 启动</translation>
+    </message>
+    <message>
+        <source>there; Quillo is running</source>
+        <translation>有；Quillo 正在运行</translation>
+    </message>
+    <message>
+        <source>there; Quillo isn&apos;t running</source>
+        <translation>有；Quillo 未运行</translation>
+    </message>
+    <message>
+        <source>%1 is free</source>
+        <translation>%1 可用</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program</source>
+        <translation>%1 已被其他程序占用</translation>
+    </message>
+    <message>
+        <source>not tried: %1</source>
+        <translation>未尝试：%1</translation>
+    </message>
+    <message>
+        <source>Backend</source>
+        <translation>服务器</translation>
+    </message>
+    <message>
+        <source>no usable address</source>
+        <translation>没有可用地址</translation>
+    </message>
+    <message>
+        <source>set apiURL in %1</source>
+        <translation>在 %1 中设置 apiURL</translation>
+    </message>
+    <message>
+        <source>%1 does not answer</source>
+        <translation>%1 没有应答</translation>
+    </message>
+    <message>
+        <source>check the network; a server of your own is started with quillo-backend</source>
+        <translation>检查网络；自己的服务器用 quillo-backend 启动</translation>
+    </message>
+    <message>
+        <source>%1 answers</source>
+        <translation>%1 有应答</translation>
+    </message>
+    <message>
+        <source>%1 answers %2, which no Quillo backend does</source>
+        <translation>%1 应答 %2，这不是 Quillo 服务器</translation>
+    </message>
+    <message>
+        <source>check apiURL in %1</source>
+        <translation>检查 %1 中的 apiURL</translation>
+    </message>
+    <message>
+        <source>Consent</source>
+        <translation>同意</translation>
+    </message>
+    <message>
+        <source>given</source>
+        <translation>已同意</translation>
+    </message>
+    <message>
+        <source>not given: dictation stays off</source>
+        <translation>未同意：听写保持关闭</translation>
+    </message>
+    <message>
+        <source>start Quillo and agree</source>
+        <translation>启动 Quillo 并同意</translation>
+    </message>
+    <message>
+        <source>Fonts</source>
+        <translation>字体</translation>
+    </message>
+    <message>
+        <source>Liberation Sans is missing: another face stands in</source>
+        <translation>缺少 Liberation Sans：由其他字体代替</translation>
+    </message>
+    <message>
+        <source>install fonts-liberation</source>
+        <translation>安装 fonts-liberation</translation>
+    </message>
+    <message>
+        <source>Liberation Sans; the system serif stands in for Fraunces</source>
+        <translation>Liberation Sans；Fraunces 由系统衬线字体代替</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <source>MISSING</source>
+        <translation>缺少</translation>
+    </message>
+    <message>
+        <source>
+Dictation can work here.
+</source>
+        <translation>
+此处可以听写。
+</translation>
+    </message>
+    <message>
+        <source>
+Dictation can&apos;t work here yet.
+</source>
+        <translation>
+此处还不能听写。
+</translation>
     </message>
 </context>
 <context>
@@ -319,6 +836,96 @@
     </message>
 </context>
 <context>
+    <name>Instance</name>
+    <message>
+        <source>There is no session bus (DBUS_SESSION_BUS_ADDRESS), so Quillo can&apos;t be reached.</source>
+        <translation>没有会话总线（DBUS_SESSION_BUS_ADDRESS），无法联系 Quillo。</translation>
+    </message>
+    <message>
+        <source>Quillo isn&apos;t running. Start it with: quillo</source>
+        <translation>Quillo 未运行。启动命令：quillo</translation>
+    </message>
+    <message>
+        <source>Quillo refused: %1</source>
+        <translation>Quillo 拒绝了：%1</translation>
+    </message>
+    <message>
+        <source>Quillo did not answer: %1</source>
+        <translation>Quillo 没有应答：%1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalizedError</name>
+    <message>
+        <source>%1 is no sound file that can be read.</source>
+        <translation>%1 不是可读取的声音文件。</translation>
+    </message>
+    <message>
+        <source>There is no sound in %1.</source>
+        <translation>%1 中没有声音。</translation>
+    </message>
+    <message>
+        <source>The sound of %1 can&apos;t be decoded.</source>
+        <translation>无法解码 %1 的声音。</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>已停止。</translation>
+    </message>
+    <message>
+        <source>The sound of %1 can&apos;t be converted.</source>
+        <translation>无法转换 %1 的声音。</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>没有文件 %1。</translation>
+    </message>
+    <message>
+        <source>The converted recording can&apos;t be written.</source>
+        <translation>无法写入转换后的录音。</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t start the microphone.</source>
+        <translation>无法启动麦克风。</translation>
+    </message>
+</context>
+<context>
+    <name>RecoverHistory</name>
+    <message>
+        <source>%1 can&apos;t be read.</source>
+        <translation>无法读取 %1。</translation>
+    </message>
+    <message>
+        <source>The history can&apos;t be saved: %1</source>
+        <translation>无法保存历史记录：%1</translation>
+    </message>
+    <message>
+        <source>1 entry taken over.
+</source>
+        <translation>已恢复 1 个条目。
+</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries taken over.
+</source>
+        <translation>
+            <numerusform>已恢复 %Ln 个条目。
+</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RemoteControl</name>
+    <message>
+        <source>unmetered</source>
+        <translation>不限量</translation>
+    </message>
+    <message>
+        <source>There is no action &quot;%1&quot;.</source>
+        <translation>没有操作“%1”。</translation>
+    </message>
+</context>
+<context>
     <name>SearchField</name>
     <message>
         <source>Search transcriptions</source>
@@ -427,6 +1034,99 @@
     <message>
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>请加上 Ctrl、Alt 或 Super，或使用 F 键，以免影响打字。</translation>
+    </message>
+</context>
+<context>
+    <name>Start</name>
+    <message>
+        <source>There is no session bus: no tray item but XEmbed&apos;s, no keyring, and commands can&apos;t reach Quillo.</source>
+        <translation>没有会话总线：除 XEmbed 外无托盘图标、无密钥环，命令也无法到达 Quillo。</translation>
+    </message>
+    <message>
+        <source>%1 See: quillo --help</source>
+        <translation>%1 参见：quillo --help</translation>
+    </message>
+</context>
+<context>
+    <name>Status</name>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>unmetered</source>
+        <translation>不限量</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>尚未知晓</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>群组</translation>
+    </message>
+    <message>
+        <source>All entries</source>
+        <translation>所有条目</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>令牌</translation>
+    </message>
+    <message>
+        <source>Transcripts</source>
+        <translation>转写</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>麦克风</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>辅助功能</translation>
+    </message>
+    <message>
+        <source>Consent</source>
+        <translation>同意</translation>
+    </message>
+</context>
+<context>
+    <name>Transcribe</name>
+    <message>
+        <source>Standard input can&apos;t be read.</source>
+        <translation>无法读取标准输入。</translation>
+    </message>
+    <message>
+        <source>The temporary folder is full.</source>
+        <translation>临时文件夹已满。</translation>
+    </message>
+    <message>
+        <source>The temporary folder can&apos;t be written.</source>
+        <translation>无法写入临时文件夹。</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>正在读取…</translation>
+    </message>
+    <message>
+        <source>Reading… %1 %</source>
+        <translation>正在读取… %1 %</translation>
+    </message>
+    <message>
+        <source>Transcribing… %1 s</source>
+        <translation>正在转写… %1 秒</translation>
+    </message>
+    <message>
+        <source>Transcribing…</source>
+        <translation>正在转写…</translation>
     </message>
 </context>
 </TS>

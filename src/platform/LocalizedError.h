@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <exception>
@@ -8,6 +9,8 @@
 
 /// A failure whose text is made where it happens and shown to the user as it stands.
 class LocalizedError : public std::exception {
+    Q_DECLARE_TR_FUNCTIONS(LocalizedError)
+
 public:
     explicit LocalizedError(QString description) : m_description(std::move(description)) {}
 

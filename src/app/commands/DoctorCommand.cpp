@@ -49,40 +49,45 @@ Level levelOfMissing(Use use)
     return use == Use::Dictation ? Level::Problem : Level::Note;
 }
 
-const QString chooseAnother = u"choose another one in the settings"_s;
+QString chooseAnother()
+{
+    return Finding::tr("choose another one in the settings");
+}
 
 /// What the running program says of its shortcuts, which nobody else can try while it holds them.
 QList<Finding> heldHotKeyFindings()
 {
-    const QString subject = u"Hot keys"_s;
+    const QString subject = Finding::tr("Hot keys");
     const auto answer = runningInstance().status();
     const auto *const status = std::get_if<QVariantMap>(&answer);
     if (status == nullptr) {
-        return {{subject, Level::Problem, u"the running Quillo does not answer"_s, u"end it and start it again"_s}};
+        return {{subject, Level::Problem, Finding::tr("the running Quillo does not answer"),
+                 Finding::tr("end it and start it again")}};
     }
     QList<Finding> findings;
     for (const auto &[use, key] :
          {std::pair(Use::Dictation, u"shortcutError"_s), std::pair(Use::Group, u"groupShortcutError"_s),
           std::pair(Use::History, u"historyShortcutError"_s)}) {
         if (const QVariant error = status->value(key); error.isValid()) {
-            findings.append({u"Hot key"_s, levelOfMissing(use), error.toString(), chooseAnother});
+            findings.append({Finding::tr("Hot key"), levelOfMissing(use), error.toString(), chooseAnother()});
         }
     }
     if (findings.isEmpty()) {
-        findings.append({subject, Level::Good, u"held by the running Quillo"_s});
+        findings.append({subject, Level::Good, Finding::tr("held by the running Quillo")});
     }
     return findings;
 }
 
 Finding busFinding()
 {
-    const QString subject = u"Session bus"_s;
+    const QString subject = Finding::tr("Session bus");
     if (!QDBusConnection::sessionBus().isConnected()) {
-        return {subject, Level::Note, u"none: no tray item, no keyring, no commands"_s,
-                u"log in through a desktop session, or start one with dbus-run-session"_s};
+        return {subject, Level::Note, Finding::tr("none: no tray item, no keyring, no commands"),
+                Finding::tr("log in through a desktop session, or start one with dbus-run-session")};
     }
     return {subject, Level::Good,
-            runningInstance().isThere() ? u"there; Quillo is running"_s : u"there; Quillo isn't running"_s};
+            runningInstance().isThere() ? Finding::tr("there; Quillo is running")
+                                        : Finding::tr("there; Quillo isn't running")};
 }
 
 /// Whether the shortcuts can be had.
@@ -100,9 +105,10 @@ QList<Finding> hotKeyFindings(X11Backend &x11, const Preferences &preferences)
         }
         const bool isFree =
             CarbonHotKey::create(x11.hotKeys(), combo->keyCode, combo->modifiers, [](bool) {}) != nullptr;
-        findings.append(isFree ? Finding{u"Hot key"_s, Level::Good, shortcut.label() + u" is free"_s}
-                               : Finding{u"Hot key"_s, levelOfMissing(use),
-                                         shortcut.label() + u" is taken by another program"_s, chooseAnother});
+        findings.append(
+            isFree ? Finding{Finding::tr("Hot key"), Level::Good, Finding::tr("%1 is free").arg(shortcut.label())}
+                   : Finding{Finding::tr("Hot key"), levelOfMissing(use),
+                             Finding::tr("%1 is taken by another program").arg(shortcut.label()), chooseAnother()});
     }
     return findings;
 }
@@ -110,7 +116,7 @@ QList<Finding> hotKeyFindings(X11Backend &x11, const Preferences &preferences)
 X11Examination displayFindings(Services &services)
 {
     if (const auto refusal = DisplayChoice::refusal()) {
-        return {{{u"Display server"_s, Level::Problem, *refusal, u"log in to an X11 session"_s}}};
+        return {{{Finding::tr("Display server"), Level::Problem, *refusal, Finding::tr("log in to an X11 session")}}};
     }
     const Shortcut dictation = StoredShortcut::read(services.preferences, Use::Dictation);
     const bool isSingleKey = dictation.asModifier() != nullptr;
@@ -121,18 +127,18 @@ X11Examination displayFindings(Services &services)
     if (x11) {
         display.findings.append(hotKeyFindings(*x11, services.preferences));
     } else {
-        display.findings.append({u"Hot keys"_s, Level::Problem, u"not tried: "_s + whyNot});
+        display.findings.append({Finding::tr("Hot keys"), Level::Problem, Finding::tr("not tried: %1").arg(whyNot)});
     }
     return display;
 }
 
 QCoro::Task<Finding> backendFinding(Services &services)
 {
-    const QString subject = u"Backend"_s;
+    const QString subject = Finding::tr("Backend");
     const auto address = ApiClient::baseUrl(services.preferences, services.packagedInfo);
     if (!address) {
-        co_return Finding{subject, Level::Problem, u"no usable address"_s,
-                          u"set apiURL in %1"_s.arg(IniPreferences::defaultPath())};
+        co_return Finding{subject, Level::Problem, Finding::tr("no usable address"),
+                          Finding::tr("set apiURL in %1").arg(IniPreferences::defaultPath())};
     }
     if (address->scheme() != u"https" && address->scheme() != u"http") {
         co_return Finding{subject, Level::Problem, address->toString() + u" begins neither with https:// nor http://"_s,
@@ -144,42 +150,44 @@ QCoro::Task<Finding> backendFinding(Services &services)
     const std::optional<HttpResponse> response = co_await transport.perform(std::move(request));
     const QString where = address->toString(QUrl::RemoveUserInfo);
     if (!response) {
-        co_return Finding{subject, Level::Problem, where + u" does not answer"_s,
-                          u"check the network; a server of your own is started with quillo-backend"_s};
+        co_return Finding{subject, Level::Problem, Finding::tr("%1 does not answer").arg(where),
+                          Finding::tr("check the network; a server of your own is started with quillo-backend")};
     }
     // Without a credential the backend of this program answers 401 with an error document.
     constexpr int unauthorized = 401;
     const bool isOurs = response->status == unauthorized && QJsonDocument::fromJson(response->body).isObject();
-    co_return isOurs ? Finding{subject, Level::Good, where + u" answers"_s}
-                     : Finding{subject, Level::Problem,
-                               u"%1 answers %2, which no Quillo backend does"_s.arg(where).arg(response->status),
-                               u"check apiURL in %1"_s.arg(IniPreferences::defaultPath())};
+    co_return isOurs
+        ? Finding{subject, Level::Good, Finding::tr("%1 answers").arg(where)}
+        : Finding{subject, Level::Problem,
+                  Finding::tr("%1 answers %2, which no Quillo backend does").arg(where).arg(response->status),
+                  Finding::tr("check apiURL in %1").arg(IniPreferences::defaultPath())};
 }
 
 Finding consentFinding(const AIConsent &consent)
 {
     return consent.isCurrent()
-               ? Finding{u"Consent"_s, Level::Good, u"given"_s}
-               : Finding{u"Consent"_s, Level::Note, u"not given: dictation stays off"_s, u"start Quillo and agree"_s};
+               ? Finding{Finding::tr("Consent"), Level::Good, Finding::tr("given")}
+               : Finding{Finding::tr("Consent"), Level::Note, Finding::tr("not given: dictation stays off"),
+                         Finding::tr("start Quillo and agree")};
 }
 
 Finding fontFinding()
 {
     Paper::registerFonts(ResourceInfo::defaultFolder());
     if (!QFontDatabase::families().contains(u"Liberation Sans")) {
-        return {u"Fonts"_s, Level::Note, u"Liberation Sans is missing: another face stands in"_s,
-                u"install fonts-liberation"_s};
+        return {Finding::tr("Fonts"), Level::Note, Finding::tr("Liberation Sans is missing: another face stands in"),
+                Finding::tr("install fonts-liberation")};
     }
-    return {u"Fonts"_s, Level::Good,
+    return {Finding::tr("Fonts"), Level::Good,
             Paper::hasFraunces() ? u"Liberation Sans, Fraunces"_s
-                                 : u"Liberation Sans; the system serif stands in for Fraunces"_s};
+                                 : Finding::tr("Liberation Sans; the system serif stands in for Fraunces")};
 }
 
 void print(const Finding &finding)
 {
-    const QString mark = finding.level == Level::Good   ? u"ok"_s
-                         : finding.level == Level::Note ? u"note"_s
-                                                        : u"MISSING"_s;
+    const QString mark = finding.level == Level::Good   ? Finding::tr("ok")
+                         : finding.level == Level::Note ? Finding::tr("note")
+                                                        : Finding::tr("MISSING");
     QString line = u"%1 %2 %3\n"_s.arg(mark, -8).arg(finding.subject + u':', -18).arg(finding.text);
     if (!finding.remedy.isEmpty()) {
         line += u"%1 → %2\n"_s.arg(u""_s, 27).arg(finding.remedy);
@@ -208,7 +216,8 @@ QCoro::Task<void> examine(Services &services, QString recording)
           consentFinding(services.consent)});
     const Finding backend = co_await backendFinding(services);
     tell({backend, fontFinding()});
-    Output::print(isFit ? u"\nDictation can work here.\n"_s : u"\nDictation can't work here yet.\n"_s);
+    Output::print(isFit ? Finding::tr("\nDictation can work here.\n")
+                        : Finding::tr("\nDictation can't work here yet.\n"));
     QCoreApplication::exit(isFit ? ExitStatus::done : ExitStatus::failed);
 }
 

@@ -7,7 +7,15 @@
 #include "platform/freedesktop/XdgFiles.h"
 #include "store/TranscriptionStore.h"
 
-using namespace Qt::StringLiterals;
+#include <QCoreApplication>
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(RecoverHistory)
+};
+
+} // namespace
 
 int RecoverHistoryCommand::run(const QString &path)
 {
@@ -16,13 +24,14 @@ int RecoverHistoryCommand::run(const QString &path)
     TranscriptionStore store(files, clock);
     const std::optional<qsizetype> count = store.recover(path);
     if (!count) {
-        return Output::fail(u"%1 can't be read."_s.arg(path), ExitStatus::failed);
+        return Output::fail(Words::tr("%1 can't be read.").arg(path), ExitStatus::failed);
     }
     if (store.saveError()) {
         return Output::fail(
-            u"The history can't be saved: %1"_s.arg(QString::fromStdString(store.saveError().message())),
+            Words::tr("The history can't be saved: %1").arg(QString::fromStdString(store.saveError().message())),
             ExitStatus::failed);
     }
-    Output::print(u"%1 taken over.\n"_s.arg(*count == 1 ? u"1 entry"_s : u"%1 entries"_s.arg(*count)));
+    Output::print(*count == 1 ? Words::tr("1 entry taken over.\n")
+                              : Words::tr("%n entries taken over.\n", nullptr, int(*count)));
     return ExitStatus::done;
 }

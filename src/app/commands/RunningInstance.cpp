@@ -4,12 +4,17 @@
 #include "app/commands/CommandLine.h"
 #include "app/remote/RemoteControl.h"
 
+#include <QCoreApplication>
 #include <QDBusMessage>
 #include <QDBusReply>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Instance)
+};
 
 QDBusMessage message(const QString &interface, const QString &method)
 {
@@ -29,11 +34,11 @@ bool RunningInstance::isThere() const
 std::optional<RunningInstance::Failure> RunningInstance::unreachable() const
 {
     if (!m_bus.isConnected()) {
-        return Failure{u"There is no session bus (DBUS_SESSION_BUS_ADDRESS), so Quillo can't be reached."_s,
+        return Failure{Words::tr("There is no session bus (DBUS_SESSION_BUS_ADDRESS), so Quillo can't be reached."),
                        ExitStatus::notRunning};
     }
     if (!isThere()) {
-        return Failure{u"Quillo isn't running. Start it with: quillo"_s, ExitStatus::notRunning};
+        return Failure{Words::tr("Quillo isn't running. Start it with: quillo"), ExitStatus::notRunning};
     }
     return std::nullopt;
 }
@@ -48,7 +53,7 @@ std::optional<RunningInstance::Failure> RunningInstance::call(const QString &met
     request.setArguments(arguments);
     const QDBusMessage reply = m_bus.call(request);
     if (reply.type() == QDBusMessage::ErrorMessage) {
-        return Failure{u"Quillo refused: %1"_s.arg(reply.errorMessage()), ExitStatus::failed};
+        return Failure{Words::tr("Quillo refused: %1").arg(reply.errorMessage()), ExitStatus::failed};
     }
     return std::nullopt;
 }
@@ -70,7 +75,7 @@ std::variant<QVariantMap, RunningInstance::Failure> RunningInstance::status() co
     }
     const QDBusReply<QVariantMap> reply = m_bus.call(message(RemoteControl::interface(), u"GetStatus"_s));
     if (!reply.isValid()) {
-        return Failure{u"Quillo did not answer: %1"_s.arg(reply.error().message()), ExitStatus::failed};
+        return Failure{Words::tr("Quillo did not answer: %1").arg(reply.error().message()), ExitStatus::failed};
     }
     return reply.value();
 }

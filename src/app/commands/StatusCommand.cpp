@@ -5,6 +5,7 @@
 #include "app/commands/Output.h"
 #include "app/commands/RunningInstance.h"
 
+#include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -12,25 +13,29 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Status)
+};
+
 QString yesOrNo(const QVariantMap &status, const QString &key)
 {
-    return status.value(key).toBool() ? u"yes"_s : u"no"_s;
+    return status.value(key).toBool() ? Words::tr("yes") : Words::tr("no");
 }
 
 QString readable(const QVariantMap &status)
 {
     const QString tokens = status.value(u"unmetered"_s).toBool()
-                               ? u"unmetered"_s
-                               : status.value(u"balance"_s, u"not known yet"_s).toString();
+                               ? Words::tr("unmetered")
+                               : status.value(u"balance"_s, Words::tr("not known yet")).toString();
     QString text = status.value(u"status"_s).toString() + u'\n';
     const std::initializer_list<std::pair<QString, QString>> rows{
-        {u"State"_s, status.value(u"state"_s).toString()},
-        {u"Group"_s, status.value(u"group"_s, u"All entries"_s).toString()},
-        {u"Tokens"_s, tokens},
-        {u"Transcripts"_s, status.value(u"transcripts"_s).toString()},
-        {u"Microphone"_s, yesOrNo(status, u"microphone"_s)},
-        {u"Accessibility"_s, yesOrNo(status, u"accessibility"_s)},
-        {u"Consent"_s, yesOrNo(status, u"consent"_s)}};
+        {Words::tr("State"), status.value(u"state"_s).toString()},
+        {Words::tr("Group"), status.value(u"group"_s, Words::tr("All entries")).toString()},
+        {Words::tr("Tokens"), tokens},
+        {Words::tr("Transcripts"), status.value(u"transcripts"_s).toString()},
+        {Words::tr("Microphone"), yesOrNo(status, u"microphone"_s)},
+        {Words::tr("Accessibility"), yesOrNo(status, u"accessibility"_s)},
+        {Words::tr("Consent"), yesOrNo(status, u"consent"_s)}};
     for (const auto &[name, value] : rows) {
         text += u"%1 %2\n"_s.arg(name + u':', -14).arg(value);
     }

@@ -27,6 +27,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Transcribe)
+};
+
 /// How long a request to stop may go unseen while standard input has nothing to give.
 constexpr std::chrono::milliseconds stopPatience(100);
 
@@ -42,17 +46,17 @@ void spoolInput(QFile &target, const std::atomic<bool> &isStopped)
         }
         const ssize_t size = ::read(STDIN_FILENO, piece.data(), piece.size());
         if (size < 0) {
-            throw LocalizedError(u"Standard input can't be read."_s);
+            throw LocalizedError(Words::tr("Standard input can't be read."));
         }
         if (size == 0) {
             break;
         }
         if (target.write(piece.data(), size) != size) {
-            throw LocalizedError(u"The temporary folder is full."_s);
+            throw LocalizedError(Words::tr("The temporary folder is full."));
         }
     }
     if (!target.flush()) {
-        throw LocalizedError(u"The temporary folder is full."_s);
+        throw LocalizedError(Words::tr("The temporary folder is full."));
     }
 }
 
@@ -81,7 +85,7 @@ public:
             if (isSpooled) {
                 // A container's index may stand at its end, so the input must be a file.
                 if (!m_spool.open()) {
-                    throw LocalizedError(u"The temporary folder can't be written."_s);
+                    throw LocalizedError(Words::tr("The temporary folder can't be written."));
                 }
                 path = m_spool.fileName();
             }
@@ -106,7 +110,7 @@ private:
         const auto promise = std::make_shared<QPromise<std::optional<LocalizedError>>>();
         promise->start();
         const QFuture<std::optional<LocalizedError>> done = promise->future();
-        Output::progress(u"Reading…"_s);
+        Output::progress(Words::tr("Reading…"));
         QThreadPool::globalInstance()->start([this, source, isSpooled, promise] {
             std::optional<LocalizedError> failure;
             try {
@@ -118,7 +122,7 @@ private:
                                         const int percent = static_cast<int>(part * 100);
                                         if (part >= 0 && percent != shown) {
                                             shown = percent;
-                                            Output::progress(u"Reading… %1 %"_s.arg(percent));
+                                            Output::progress(Words::tr("Reading… %1 %").arg(percent));
                                         }
                                         return !m_isStopped;
                                     });
@@ -138,9 +142,9 @@ private:
     {
         m_elapsed.start();
         QObject::connect(&m_ticks, &QTimer::timeout, &m_ticks,
-                         [this] { Output::progress(u"Transcribing… %1 s"_s.arg(m_elapsed.elapsed() / 1000)); });
+                         [this] { Output::progress(Words::tr("Transcribing… %1 s").arg(m_elapsed.elapsed() / 1000)); });
         m_ticks.start(std::chrono::seconds(1));
-        Output::progress(u"Transcribing…"_s);
+        Output::progress(Words::tr("Transcribing…"));
     }
 
     Services &m_services;

@@ -116,7 +116,7 @@ QVariantMap RemoteControl::status() const
     QVariantMap values{
         {u"state"_s, stateName(model.state())},
         {u"status"_s, model.statusText()},
-        {u"unmetered"_s, model.isUnmetered()},
+        {RemoteControl::tr("unmetered"), model.isUnmetered()},
         {u"microphone"_s, model.microphone() == AudioRecorder::Permission::Granted},
         {u"accessibility"_s, model.isTrusted()},
         {u"consent"_s, model.hasConsent()},
@@ -142,6 +142,6 @@ QVariantMap RemoteControl::status() const
 void RemoteControl::refuse(const QString &action)
 {
     if (calledFromDBus()) {
-        sendErrorReply(QDBusError::InvalidArgs, u"There is no action \"%1\"."_s.arg(action));
+        sendErrorReply(QDBusError::InvalidArgs, RemoteControl::tr("There is no action \"%1\".").arg(action));
     }
 }

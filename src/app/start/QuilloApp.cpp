@@ -18,6 +18,7 @@
 #include "platform/Platform.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QIcon>
 #include <QQuickWindow>
 
@@ -27,6 +28,10 @@ using namespace Qt::StringLiterals;
 Q_COREAPP_STARTUP_FUNCTION(speakPreferredLanguage)
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Start)
+};
 
 /// What remains of the program's arguments is none of Qt's.
 struct Arguments {
@@ -43,11 +48,12 @@ int bringForward(const QDBusConnection &bus)
 
 int start(Arguments arguments)
 {
-    if (const auto refusal = DisplayChoice::refusal()) {
+    if (DisplayChoice::refusal()) {
         // A program that runs can be reopened from where another could not be started, such as a bare terminal.
         const QCoreApplication application(arguments.count, arguments.values);
         const QDBusConnection bus = QDBusConnection::sessionBus();
-        return RunningInstance(bus).isThere() ? bringForward(bus) : Output::fail(*refusal, ExitStatus::failed);
+        return RunningInstance(bus).isThere() ? bringForward(bus)
+                                              : Output::fail(*DisplayChoice::refusal(), ExitStatus::failed);
     }
     DisplayChoice::prepare();
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
@@ -64,7 +70,8 @@ int start(Arguments arguments)
         return bringForward(bus);
     case RemoteControl::Claim::NoBus:
         Output::fail(
-            u"There is no session bus: no tray item but XEmbed's, no keyring, and commands can't reach Quillo."_s,
+            Words::tr(
+                "There is no session bus: no tray item but XEmbed's, no keyring, and commands can't reach Quillo."),
             ExitStatus::failed);
         break;
     case RemoteControl::Claim::IsFirst:
@@ -143,7 +150,8 @@ int QuilloApp::run(int argc, char *argv[])
                               return RecoverHistoryCommand::run(recover.path);
                           },
                           [&](const CommandLine::Mistake &mistake) {
-                              return Output::fail(mistake.text + u" See: quillo --help"_s, ExitStatus::usage);
+                              return Output::fail(Words::tr("%1 See: quillo --help").arg(mistake.text),
+                                                  ExitStatus::usage);
                           },
                       },
                       parse(words, own));

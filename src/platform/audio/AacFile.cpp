@@ -22,7 +22,7 @@ constexpr int maxBitsPerFrame = 6144; // of one AAC channel
 
 LocalizedError cantStart()
 {
-    return LocalizedError(u"Couldn't start the microphone."_s);
+    return LocalizedError(LocalizedError::tr("Couldn't start the microphone."));
 }
 
 /// Opening the encoder refuses other sample rates by itself, but not a bit rate that it can't reach.

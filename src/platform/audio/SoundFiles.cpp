@@ -39,19 +39,19 @@ public:
         // As a file, whatever the name looks like: a colon would make it an address.
         const QByteArray address = "file:" + QFile::encodeName(path);
         if (avformat_open_input(&input, address.constData(), nullptr, nullptr) < 0) {
-            throw LocalizedError(u"%1 is no sound file that can be read."_s.arg(m_name));
+            throw LocalizedError(LocalizedError::tr("%1 is no sound file that can be read.").arg(m_name));
         }
         m_input.reset(input);
         avformat_find_stream_info(input, nullptr);
         const AVCodec *codec = nullptr;
         m_stream = av_find_best_stream(input, AVMEDIA_TYPE_AUDIO, -1, -1, &codec, 0);
         if (m_stream < 0) {
-            throw LocalizedError(u"There is no sound in %1."_s.arg(m_name));
+            throw LocalizedError(LocalizedError::tr("There is no sound in %1.").arg(m_name));
         }
         m_decoder.reset(avcodec_alloc_context3(codec));
         if (!m_decoder || avcodec_parameters_to_context(m_decoder.get(), stream().codecpar) < 0 ||
             avcodec_open2(m_decoder.get(), codec, nullptr) < 0) {
-            throw LocalizedError(u"The sound of %1 can't be decoded."_s.arg(m_name));
+            throw LocalizedError(LocalizedError::tr("The sound of %1 can't be decoded.").arg(m_name));
         }
     }
 
@@ -63,7 +63,7 @@ public:
             const bool isSound = packet->stream_index == m_stream;
             if (isSound) {
                 if (!progress(partUntil(*packet))) {
-                    throw LocalizedError(u"Stopped."_s);
+                    throw LocalizedError(LocalizedError::tr("Stopped."));
                 }
                 avcodec_send_packet(m_decoder.get(), packet.get()); // a damaged packet is left out
             }
@@ -120,7 +120,7 @@ private:
             return convert(frame, take);
         }
         if (result < 0) {
-            throw LocalizedError(u"The sound of %1 can't be converted."_s.arg(m_name));
+            throw LocalizedError(LocalizedError::tr("The sound of %1 can't be converted.").arg(m_name));
         }
         const auto count = static_cast<size_t>(m_converted->nb_samples);
         return count == 0 || take(std::span(reinterpret_cast<const float *>(m_converted->data[0]), count));
@@ -142,7 +142,7 @@ void SoundFiles::convert(const QString &source, const QString &destination, cons
                          const Progress &progress)
 {
     if (const QFile file(source); !file.exists()) {
-        throw LocalizedError(u"There is no file %1."_s.arg(source));
+        throw LocalizedError(LocalizedError::tr("There is no file %1.").arg(source));
     }
     silenceLibav();
     SoundReader reader(source, settings.sampleRate);
@@ -156,10 +156,10 @@ void SoundFiles::convert(const QString &source, const QString &destination, cons
             },
             progress);
         if (!isWritten) {
-            throw LocalizedError(u"The converted recording can't be written."_s);
+            throw LocalizedError(LocalizedError::tr("The converted recording can't be written."));
         }
         if (!hasSound) {
-            throw LocalizedError(u"There is no sound in %1."_s.arg(QFileInfo(source).fileName()));
+            throw LocalizedError(LocalizedError::tr("There is no sound in %1.").arg(QFileInfo(source).fileName()));
         }
     } catch (const LocalizedError &) {
         file.remove();
@@ -168,6 +168,6 @@ void SoundFiles::convert(const QString &source, const QString &destination, cons
     file.finish();
     if (QFileInfo(destination).size() == 0) {
         file.remove();
-        throw LocalizedError(u"The converted recording can't be written."_s);
+        throw LocalizedError(LocalizedError::tr("The converted recording can't be written."));
     }
 }

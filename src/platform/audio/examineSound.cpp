@@ -27,28 +27,30 @@ constexpr float silence = -90; // dB
 
 Finding serverFinding(const PulseContext &pulse)
 {
-    const QString subject = u"Sound server"_s;
+    const QString subject = Finding::tr("Sound server");
     if (pulse.connection() == PulseContext::Connection::Ready) {
         const std::scoped_lock guard(pulse);
         return {subject, Level::Good, QString::fromLocal8Bit(pa_context_get_server(pulse.context()))};
     }
     if (pulse.isDenied()) {
-        return {subject, Level::Problem, u"refuses access"_s,
-                u"allow Quillo to record in the sandbox or sound settings"_s};
+        return {subject, Level::Problem, Finding::tr("refuses access"),
+                Finding::tr("allow Quillo to record in the sandbox or sound settings")};
     }
-    return {subject, Level::Problem, u"not running"_s, u"start PulseAudio or PipeWire (pipewire-pulse)"_s};
+    return {subject, Level::Problem, Finding::tr("not running"),
+            Finding::tr("start PulseAudio or PipeWire (pipewire-pulse)")};
 }
 
 QCoro::Task<Finding> levelFinding(PulseContext &pulse, Clock &clock, QString path, AudioSettings settings)
 {
-    const QString subject = u"Microphone level"_s;
+    const QString subject = Finding::tr("Microphone level");
     const auto removing = qScopeGuard([&path] { QFile::remove(path); });
     float power = silence;
     try {
         PulseRecorder recorder(pulse, clock, path, settings);
         recorder.setMeteringEnabled(true);
         if (!recorder.record()) {
-            co_return Finding{subject, Level::Problem, u"it can't be recorded"_s, u"choose another input device"_s};
+            co_return Finding{subject, Level::Problem, Finding::tr("it can't be recorded"),
+                              Finding::tr("choose another input device")};
         }
         co_await clock.sleep(listening);
         recorder.updateMeters();
@@ -58,7 +60,8 @@ QCoro::Task<Finding> levelFinding(PulseContext &pulse, Clock &clock, QString pat
         co_return Finding{subject, Level::Problem, error.localizedDescription()};
     }
     if (power <= silence) {
-        co_return Finding{subject, Level::Note, u"silent"_s, u"unmute the input device in the sound settings"_s};
+        co_return Finding{subject, Level::Note, Finding::tr("silent"),
+                          Finding::tr("unmute the input device in the sound settings")};
     }
     co_return Finding{subject, Level::Good, u"%1 dB"_s.arg(power, 0, 'f', 0)};
 }
@@ -77,8 +80,8 @@ QCoro::Task<QList<Finding>> examineSound(Clock &clock, QString path, AudioSettin
         co_return findings;
     }
     if (pulse.source() != PulseContext::Source::Present) {
-        findings.append({u"Microphone"_s, Level::Problem, u"no input device"_s,
-                         u"connect a microphone, or choose one in the sound settings"_s});
+        findings.append({Finding::tr("Microphone"), Level::Problem, Finding::tr("no input device"),
+                         Finding::tr("connect a microphone, or choose one in the sound settings")});
         co_return findings;
     }
     QString source;
@@ -86,7 +89,7 @@ QCoro::Task<QList<Finding>> examineSound(Clock &clock, QString path, AudioSettin
         const std::scoped_lock guard(pulse);
         source = QString::fromLocal8Bit(pulse.sourceName());
     }
-    findings.append({u"Microphone"_s, Level::Good, source});
+    findings.append({Finding::tr("Microphone"), Level::Good, source});
     const Finding level = co_await levelFinding(pulse, clock, path, settings);
     findings.append(level);
     co_return findings;

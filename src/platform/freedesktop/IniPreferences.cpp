@@ -14,16 +14,17 @@ QString IniPreferences::defaultPath()
 
 Finding IniPreferences::examine() const
 {
-    const QString subject = u"Preferences"_s;
+    const QString subject = Finding::tr("Preferences");
     m_settings.sync();
     const QString path = m_settings.fileName();
     switch (m_settings.status()) {
     case QSettings::AccessError:
-        return {subject, Finding::Level::Note, path + u" can't be read or written"_s,
-                u"make it yours: chown and chmod u+rw"_s};
+        return {subject, Finding::Level::Note, Finding::tr("%1 can't be read or written").arg(path),
+                Finding::tr("make it yours: chown and chmod u+rw")};
     case QSettings::FormatError:
-        return {subject, Finding::Level::Note, path + u" is damaged: what can't be read counts as not set"_s,
-                u"mend the file or move it away"_s};
+        return {subject, Finding::Level::Note,
+                Finding::tr("%1 is damaged: what can't be read counts as not set").arg(path),
+                Finding::tr("mend the file or move it away")};
     case QSettings::NoError:
         break;
     }

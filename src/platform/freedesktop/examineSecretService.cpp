@@ -7,8 +7,7 @@ using namespace Qt::StringLiterals;
 
 Finding examineSecretService()
 {
-    const QString subject = u"Keyring"_s;
-    const QString meanwhile = u"; until then the credential is kept in memory and each start is a new device"_s;
+    const QString subject = Finding::tr("Keyring");
     g_autoptr(GError) error = nullptr;
     g_autoptr(SecretService) service = secret_service_get_sync(SECRET_SERVICE_NONE, nullptr, &error);
     g_autoptr(SecretCollection) collection =
@@ -16,15 +15,21 @@ Finding examineSecretService()
                            : secret_collection_for_alias_sync(service, SECRET_COLLECTION_DEFAULT,
                                                               SECRET_COLLECTION_NONE, nullptr, &error);
     if (error != nullptr) {
-        return {subject, Finding::Level::Note, u"absent: no Secret Service on the session bus"_s,
-                u"install and start GNOME Keyring, KWallet or KeePassXC"_s + meanwhile};
+        return {
+            subject, Finding::Level::Note, Finding::tr("absent: no Secret Service on the session bus"),
+            Finding::tr(
+                "install and start GNOME Keyring, KWallet or KeePassXC; until then the credential is kept in memory "
+                "and each start is a new device")};
     }
     if (collection == nullptr) {
-        return {subject, Finding::Level::Note, u"there, without a default keyring"_s,
-                u"it is made when Quillo first stores its credential"_s};
+        return {subject, Finding::Level::Note, Finding::tr("there, without a default keyring"),
+                Finding::tr("it is made when Quillo first stores its credential")};
     }
     if (secret_collection_get_locked(collection) == TRUE) {
-        return {subject, Finding::Level::Note, u"locked"_s, u"unlock the login keyring"_s + meanwhile};
+        return {
+            subject, Finding::Level::Note, Finding::tr("locked"),
+            Finding::tr("unlock the login keyring; until then the credential is kept in memory and each start is a new "
+                        "device")};
     }
-    return {subject, Finding::Level::Good, u"usable"_s};
+    return {subject, Finding::Level::Good, Finding::tr("usable")};
 }

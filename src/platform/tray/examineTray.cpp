@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 Finding examineTray(const QDBusConnection &bus, bool hasOtherTray)
 {
-    const QString subject = u"Tray"_s;
+    const QString subject = Finding::tr("Tray");
     const QString watcher = u"org.kde.StatusNotifierWatcher"_s;
     const QDBusInterface host(watcher, u"/StatusNotifierWatcher"_s, watcher, bus);
     if (host.property("IsStatusNotifierHostRegistered").toBool()) {
@@ -16,6 +16,7 @@ Finding examineTray(const QDBusConnection &bus, bool hasOtherTray)
     if (hasOtherTray) {
         return {subject, Finding::Level::Good, u"XEmbed"_s};
     }
-    return {subject, Finding::Level::Note, u"none on this desktop"_s,
-            u"start quillo again for the history, use its commands (quillo --help), or add a tray to the panel"_s};
+    return {subject, Finding::Level::Note, Finding::tr("none on this desktop"),
+            Finding::tr(
+                "start quillo again for the history, use its commands (quillo --help), or add a tray to the panel")};
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/X11Backend.h"
 
+#include "platform/Finding.h"
 #include "platform/x11/clipboard/X11Pasteboard.h"
 #include "platform/x11/connection/X11Connection.h"
 #include "platform/x11/keys/X11Accessibility.h"
@@ -45,17 +46,17 @@ std::unique_ptr<X11Backend> X11Backend::create(Clock &clock, const QStringList &
 {
     auto connection = X11Connection::create();
     if (!connection) {
-        *whyNot = QStringLiteral("there is no X server at $DISPLAY");
+        *whyNot = Finding::tr("there is no X server at $DISPLAY");
         return nullptr;
     }
     auto keymap = X11Keymap::create(*connection);
     if (!keymap) {
-        *whyNot = QStringLiteral("the X server has no keyboard extension (XKB)");
+        *whyNot = Finding::tr("the X server has no keyboard extension (XKB)");
         return nullptr;
     }
     auto pasteboard = X11Pasteboard::create(clock);
     if (!pasteboard) {
-        *whyNot = QStringLiteral("the X server has no XFIXES extension");
+        *whyNot = Finding::tr("the X server has no XFIXES extension");
         return nullptr;
     }
     return std::unique_ptr<X11Backend>(new X11Backend(

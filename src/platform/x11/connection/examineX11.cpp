@@ -53,49 +53,54 @@ QString serverName(const X11Connection &connection)
 
 QList<Finding> examineX11Extensions(const X11Extensions &has, DictationShortcutKind dictation)
 {
-    const Finding noRawKeys =
-        dictation == DictationShortcutKind::SingleKey
-            ? Finding{u"Raw keys"_s, Level::Problem, u"no XInput 2.2: the dictation shortcut is a single key"_s,
-                      u"choose a key combination in the settings"_s}
-            : Finding{u"Raw keys"_s, Level::Note, u"no XInput 2.2: a single key can't be a shortcut"_s,
-                      u"use a key combination"_s};
-    return {has.xkb
-                ? Finding{u"Keyboard"_s, Level::Good, u"XKB"_s}
-                : Finding{u"Keyboard"_s, Level::Problem, u"no XKB"_s, u"enable the X server's XKEYBOARD extension"_s},
-            has.rawKeys ? Finding{u"Raw keys"_s, Level::Good, u"XInput 2.2"_s} : noRawKeys,
-            has.test ? Finding{u"Key posting"_s, Level::Good, u"XTEST"_s}
-                     : Finding{u"Key posting"_s, Level::Note, u"no XTEST: text is copied, not pasted"_s,
-                               u"paste with Ctrl+V, or enable the X server's XTEST extension"_s},
-            has.xfixes
-                ? Finding{u"Clipboard"_s, Level::Good, u"XFIXES"_s}
-                : Finding{u"Clipboard"_s, Level::Problem, u"no XFIXES"_s, u"enable the X server's XFIXES extension"_s}};
+    const Finding noRawKeys = dictation == DictationShortcutKind::SingleKey
+                                  ? Finding{Finding::tr("Raw keys"), Level::Problem,
+                                            Finding::tr("no XInput 2.2: the dictation shortcut is a single key"),
+                                            Finding::tr("choose a key combination in the settings")}
+                                  : Finding{Finding::tr("Raw keys"), Level::Note,
+                                            Finding::tr("no XInput 2.2: a single key can't be a shortcut"),
+                                            Finding::tr("use a key combination")};
+    return {has.xkb ? Finding{Finding::tr("Keyboard"), Level::Good, u"XKB"_s}
+                    : Finding{Finding::tr("Keyboard"), Level::Problem, Finding::tr("no XKB"),
+                              Finding::tr("enable the X server's XKEYBOARD extension")},
+            has.rawKeys ? Finding{Finding::tr("Raw keys"), Level::Good, u"XInput 2.2"_s} : noRawKeys,
+            has.test
+                ? Finding{Finding::tr("Key posting"), Level::Good, u"XTEST"_s}
+                : Finding{Finding::tr("Key posting"), Level::Note, Finding::tr("no XTEST: text is copied, not pasted"),
+                          Finding::tr("paste with Ctrl+V, or enable the X server's XTEST extension")},
+            has.xfixes ? Finding{Finding::tr("Clipboard"), Level::Good, u"XFIXES"_s}
+                       : Finding{Finding::tr("Clipboard"), Level::Problem, Finding::tr("no XFIXES"),
+                                 Finding::tr("enable the X server's XFIXES extension")}};
 }
 
 X11Examination examineX11(DictationShortcutKind dictation)
 {
     const auto connection = X11Connection::create();
     if (!connection) {
-        return {{{u"Display server"_s, Level::Problem, u"there is no X server at $DISPLAY"_s,
-                  u"log in to an X11 session"_s}}};
+        return {{{Finding::tr("Display server"), Level::Problem, Finding::tr("there is no X server at $DISPLAY"),
+                  Finding::tr("log in to an X11 session")}}};
     }
-    QList<Finding> findings{
-        {u"Display server"_s, Level::Good, u"X11 (%1), backend x11"_s.arg(serverName(*connection))}};
+    QList<Finding> findings{{Finding::tr("Display server"), Level::Good,
+                             Finding::tr("X11 (%1), backend x11").arg(serverName(*connection))}};
     findings.append(examineX11Extensions(connection->extensions(), dictation));
     findings.append(hasWindowManager(*connection)
-                        ? Finding{u"Window manager"_s, Level::Good, u"there"_s}
-                        : Finding{u"Window manager"_s, Level::Note, u"none: windows may not come to the front"_s,
-                                  u"start a window manager"_s});
-    findings.append(owner(*connection, "_NET_WM_CM_S") != noWindow
-                        ? Finding{u"Compositor"_s, Level::Good, u"there"_s}
-                        : Finding{u"Compositor"_s, Level::Good, u"none: the status panel has hard edges"_s});
+                        ? Finding{Finding::tr("Window manager"), Level::Good, Finding::tr("there")}
+                        : Finding{Finding::tr("Window manager"), Level::Note,
+                                  Finding::tr("none: windows may not come to the front"),
+                                  Finding::tr("start a window manager")});
+    findings.append(
+        owner(*connection, "_NET_WM_CM_S") != noWindow
+            ? Finding{Finding::tr("Compositor"), Level::Good, Finding::tr("there")}
+            : Finding{Finding::tr("Compositor"), Level::Good, Finding::tr("none: the status panel has hard edges")});
     const bool hasXEmbedTray = owner(*connection, "_NET_SYSTEM_TRAY_S") != noWindow;
     if (hasXEmbedTray) {
-        findings.append({u"XEmbed tray"_s, Level::Good, u"there"_s});
+        findings.append({Finding::tr("XEmbed tray"), Level::Good, Finding::tr("there")});
     }
     if (!QStandardPaths::findExecutable(u"xterm"_s).isEmpty() && !xtermPastes(*connection)) {
-        findings.append({u"xterm"_s, Level::Note, u"Ctrl+Shift+V does not paste in it"_s,
-                         u"add to ~/.Xresources and load it with xrdb -merge: "
-                         "XTerm*VT100.translations: #override Ctrl Shift <Key>V: insert-selection(CLIPBOARD)"_s});
+        findings.append(
+            {u"xterm"_s, Level::Note, Finding::tr("Ctrl+Shift+V does not paste in it"),
+             Finding::tr("add to ~/.Xresources and load it with xrdb -merge: %1")
+                 .arg(u"XTerm*VT100.translations: #override Ctrl Shift <Key>V: insert-selection(CLIPBOARD)"_s)});
     }
     return {findings, hasXEmbedTray};
 }
