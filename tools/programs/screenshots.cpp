@@ -7,7 +7,7 @@
 #include "ui/history/HistoryModel.h"
 #include "ui/hud/HUDModel.h"
 #include "ui/style/Paper.h"
-#include "ui/windows/ViewWindow.h"
+#include "ui/windows/makeViewWindow.h"
 
 #include <QDir>
 #include <QGuiApplication>

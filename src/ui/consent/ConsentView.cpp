@@ -2,7 +2,7 @@
 #include "ui/consent/ConsentView.h"
 
 #include "ui/consent/DisclosureView.h"
-#include "ui/windows/ViewWindow.h"
+#include "ui/windows/makeViewWindow.h"
 
 #include <QQuickItem>
 #include <QQuickView>

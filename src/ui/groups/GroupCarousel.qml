@@ -18,13 +18,15 @@ Column {
         height: 14 + editButton.height
 
         MetaLabel {
+            id: label
+
             anchors.verticalCenter: editButton.verticalCenter
             label: qsTr("Current group")
         }
         PillButtonStyle {
             id: editButton
 
-            anchors { right: parent.right; bottom: parent.bottom }
+            anchors { left: label.right; leftMargin: 8; bottom: parent.bottom }
             text: qsTr("Edit")
             onClicked: carousel.edit()
             Accessible.name: qsTr("Edit groups")
@@ -89,7 +91,7 @@ Column {
             }
             Connections {
                 target: carousel.groups
-                function onActiveChanged() {
+                function onActivated() {
                     strip.centre(true);
                 }
             }
@@ -99,10 +101,7 @@ Column {
 
                 x: strip.width / 2
                 spacing: 4
-                onPositioningComplete: {
-                    if (!scroll.running)
-                        strip.centre(false);
-                }
+                onPositioningComplete: strip.centre(scroll.running)
 
                 Repeater {
                     id: repeater

@@ -12,7 +12,10 @@ GroupCarouselModel::GroupCarouselModel(GroupStore &groups) : m_groups(groups), m
         replaceRows(count, [&] { m_count = count; });
         Q_EMIT activeChanged();
     });
-    connect(&groups, &GroupStore::activeIdChanged, this, &GroupCarouselModel::activeChanged);
+    connect(&groups, &GroupStore::activeIdChanged, this, [this] {
+        Q_EMIT activeChanged();
+        Q_EMIT activated();
+    });
 }
 
 int GroupCarouselModel::rowCount(const QModelIndex &parent) const

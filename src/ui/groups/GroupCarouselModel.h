@@ -34,6 +34,9 @@ public:
     Q_INVOKABLE void activate(int row);
 
 Q_SIGNALS:
+    /// Another group has been made the active one.
+    void activated();
+    /// Its row or name has changed, or it is another.
     void activeChanged();
 
 private:

@@ -18,6 +18,8 @@ Rectangle {
 
         readonly property int rowHeight: 30
         property bool isDragging: false
+        // Escape has ended the dragging; what the pointer does until it lets go moves nothing.
+        property bool isDragCancelled: false
         // Where the pointer has a dragged row, from the top of the list.
         property real pointerY: 0
         // Where the dragged row would go: before this one. Less than zero while nothing is dragged.
@@ -40,19 +42,24 @@ Rectangle {
             width: list.width
             height: list.rowHeight
             onRename: name => frame.groups.rename(index, name)
-            onRemove: frame.groups.remove(index)
+            onRemove: list.remove(index)
             onReached: list.positionViewAtIndex(index, ListView.Contain)
             onDragged: sceneY => {
                 list.pointerY = list.mapFromItem(null, 0, sceneY).y;
-                list.isDragging = true;
+                list.isDragging = !list.isDragCancelled;
             }
             onDropped: list.drop(index)
             onMoveBy: step => list.moveBy(index, step)
         }
 
+        function remove(row) {
+            frame.groups.remove(row);
+            frame.forceActiveFocus(); // the row that moves up is not to get the next key
+        }
         function drop(row) {
             const destination = dropIndex;
             isDragging = false;
+            isDragCancelled = false;
             if (destination >= 0)
                 frame.groups.move(row, destination);
         }
@@ -65,6 +72,14 @@ Rectangle {
             (itemAtIndex(place) as GroupRow)?.takeFocus();
         }
 
+        Shortcut {
+            sequence: "Escape"
+            enabled: list.isDragging
+            onActivated: {
+                list.isDragCancelled = true;
+                list.isDragging = false;
+            }
+        }
         Timer {
             interval: 16
             repeat: true

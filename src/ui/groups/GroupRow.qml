@@ -87,9 +87,10 @@ Rectangle {
         anchors { right: parent.right; rightMargin: 8; verticalCenter: parent.verticalCenter }
         width: 22
         height: 22
-        focusPolicy: Qt.StrongFocus
+        focusPolicy: Qt.TabFocus // a click leaves no focus behind for the next row's
         opacity: down ? 0.5 : 1
         onClicked: row.remove()
+        onDoubleClicked: row.reached() // the next row has moved under the second click: that one deletes nothing
         onActiveFocusChanged: {
             if (activeFocus)
                 row.reached();

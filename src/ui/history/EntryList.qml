@@ -16,6 +16,10 @@ Item {
         search.field.forceActiveFocus();
         search.field.selectAll();
     }
+    function showNewest() {
+        list.currentIndex = 0;
+        list.positionViewAtBeginning();
+    }
 
     function take(row: int) {
         list.currentIndex = row;
@@ -79,6 +83,8 @@ Item {
                 page(event.key === Qt.Key_PageDown ? 1 : -1);
             else if (event.key === Qt.Key_Up && currentIndex === 0)
                 search.field.forceActiveFocus();
+            else if (event.text > " " && !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier)))
+                search.type(event.text);
             else
                 event.accepted = false;
         }
@@ -106,8 +112,7 @@ Item {
         Connections {
             target: entries.history
             function onSearchChanged() {
-                list.currentIndex = 0;
-                list.positionViewAtBeginning();
+                entries.showNewest();
             }
         }
     }

@@ -35,6 +35,10 @@ FocusScope {
         longText?.selectAll();
     }
 
+    // A row that is kept for later use is none that can be heard of or pressed.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
+
     height: content.y + content.height + 10 + pill.height + 18
 
     Accessible.role: Accessible.ListItem

@@ -6,7 +6,7 @@
 #include "ui/history/HistoryModel.h"
 #include "ui/history/HistoryWindow.h"
 #include "ui/style/Paper.h"
-#include "ui/windows/ViewWindow.h"
+#include "ui/windows/makeViewWindow.h"
 
 #include <QQuickView>
 

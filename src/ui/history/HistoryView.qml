@@ -24,8 +24,25 @@ Item {
         onActivated: entries.startSearch()
     }
     Shortcut {
-        sequences: ["Ctrl+W"]
+        sequences: ["Ctrl+W", "Escape"]
         onActivated: view.Window.window.close()
+    }
+    Shortcut {
+        sequences: [StandardKey.Quit]
+        onActivated: Qt.quit()
+    }
+    Connections {
+        target: view.historyWindow
+        function onIsVisibleChanged() {
+            if (view.historyWindow.isVisible && !view.historyWindow.isEditingGroups && !view.history.isEmpty)
+                entries.startSearch();
+        }
+    }
+    Connections {
+        target: view.carousel
+        function onActivated() {
+            entries.showNewest();
+        }
     }
 
     Column {

@@ -12,6 +12,12 @@ Item {
 
     implicitHeight: 16 + 24 + 4
 
+    // Takes the keyboard focus with what has been typed elsewhere.
+    function type(text: string) {
+        field.forceActiveFocus();
+        field.insert(field.length, text);
+    }
+
     Item {
         anchors { fill: parent; leftMargin: 24; rightMargin: 24; topMargin: 16; bottomMargin: 4 }
 

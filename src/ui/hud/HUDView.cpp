@@ -3,7 +3,7 @@
 
 #include "platform/StatusPanel.h"
 #include "ui/hud/HUDModel.h"
-#include "ui/windows/ViewWindow.h"
+#include "ui/windows/makeViewWindow.h"
 
 #include <QAccessible>
 #include <QQuickItem>
@@ -53,6 +53,7 @@ void announce(QQuickView &window, HUDModel &model)
 std::unique_ptr<StatusPanel> HUDView::makePanel(QQmlEngine &engine, StatusPanels &panels, HUDModel &model)
 {
     auto window = makeViewWindow(engine, u"hud/HUDView"_s, {{u"model"_s, QVariant::fromValue(&model)}});
+    window->setTitle(u"Quillo"_s);
     window->setColor(Qt::transparent);
     window->setResizeMode(QQuickView::SizeRootObjectToView);
     window->resize(panelSize);

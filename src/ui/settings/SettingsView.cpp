@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/settings/SettingsView.h"
 
-#include "ui/windows/ViewWindow.h"
+#include "ui/windows/makeViewWindow.h"
 
 #include <QQuickItem>
 #include <QQuickView>

@@ -27,6 +27,7 @@ T.ComboBox {
         font: picker.font
     }
 
+    Accessible.description: displayText // its name is that of the row
     Accessible.onPressAction: popup.open()
     Keys.onReturnPressed: popup.open()
     Keys.onEnterPressed: popup.open()

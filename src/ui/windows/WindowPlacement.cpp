@@ -11,8 +11,41 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// As much of a window must be on a screen for a person to drag it back.
-constexpr int leastVisible = 64;
+// Above a window's content; how high it really is nobody knows before the window has been shown.
+constexpr int titleBarHeight = 32;
+
+int within(int place, int length, int from, int available)
+{
+    return std::max(from, std::min(place, from + available - length));
+}
+
+/// Puts the window at `frame`, moved and made smaller as far as it takes to be on the screen whole.
+void place(QWindow &window, QRect frame, const Screen &screen)
+{
+    const QRect area = screen.visibleFrame.toRect().adjusted(0, titleBarHeight, 0, 0);
+    if (window.minimumSize() != window.maximumSize()) {
+        window.setMinimumSize(window.minimumSize().boundedTo(area.size()));
+        frame.setSize(frame.size().boundedTo(area.size()));
+    }
+    frame.moveTo(within(frame.x(), frame.width(), area.x(), area.width()),
+                 within(frame.y(), frame.height(), area.y(), area.height()));
+    window.setGeometry(frame);
+}
+
+/// The screen that shows most of the frame; the one with the pointer where none shows any of it.
+std::optional<Screen> screenOf(const QRect &frame, const Screens &screens)
+{
+    std::optional<Screen> best = screens.underPointer();
+    qreal most = 0;
+    for (const Screen &screen : screens.screens()) {
+        const QRectF shown = screen.visibleFrame & QRectF(frame);
+        if (shown.width() * shown.height() > most) {
+            most = shown.width() * shown.height();
+            best = screen;
+        }
+    }
+    return best;
+}
 
 } // namespace
 
@@ -21,7 +54,7 @@ void WindowPlacement::centre(QWindow &window, const Screens &screens)
     if (const auto screen = screens.underPointer()) {
         QRect frame(QPoint(), window.size());
         frame.moveCenter(screen->visibleFrame.center().toPoint());
-        window.setPosition(frame.topLeft());
+        place(window, frame, *screen);
     }
 }
 
@@ -45,12 +78,7 @@ void WindowPlacement::restore(QWindow &window, const QString &geometry, const Sc
         return;
     }
     const QRect frame(numbers[0], numbers[1], numbers[2], numbers[3]);
-    const QList<Screen> all = screens.screens();
-    const bool isReachable = std::ranges::any_of(all, [&](const Screen &screen) {
-        const QRect shown = screen.visibleFrame.toRect() & frame;
-        return shown.width() >= leastVisible && shown.height() >= leastVisible;
-    });
-    if (isReachable) {
-        window.setGeometry(frame);
+    if (const auto screen = screenOf(frame, screens)) {
+        place(window, frame, *screen);
     }
 }

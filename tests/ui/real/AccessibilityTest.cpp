@@ -72,7 +72,9 @@ TEST_F(AccessibilityTest, AScreenReaderReadsAndOperatesTheWindows)
     EXPECT_NE(reader({u"find"_s, u"page tab"_s, u"All entries"_s}).indexOf(u"selected"_s), -1);
     reader({u"press"_s, u"page tab"_s, u"Work"_s});
     EXPECT_FALSE(reader({u"find"_s, u"list item"_s, u"Read as one item, *"_s}).contains(u"· Work"_s));
-    reader({u"find"_s, u"text"_s, u"Search transcriptions"_s});
+    EXPECT_TRUE(reader({u"find"_s, u"text"_s, u"Search transcriptions"_s}).contains(u"focused"_s));
+    run(u"xdotool"_s, {u"type"_s, u"zebra"_s}, environment);
+    reader({u"absent"_s, u"list item"_s, u"Read as one item, *"_s});
 
     reader({u"press"_s, u"push button"_s, u"Edit groups"_s});
     reader({u"focus"_s, u"text"_s, u"New group"_s});

@@ -68,7 +68,7 @@ TEST_F(HistoryViewTest, KeysReachEveryRowAndTheClipboard)
     windows.store.add(u"older text"_s, std::nullopt);
     windows.store.add(u"newer text"_s, std::nullopt);
     ViewDriver driver = openHistory();
-    driver.press(Qt::Key_F, Qt::ControlModifier);
+    driver.press(Qt::Key_Tab); // from the search field, where the focus begins
     driver.type(u"TEXT"_s);
     driver.press(Qt::Key_Down);
     driver.press(Qt::Key_Down);
@@ -84,8 +84,10 @@ TEST_F(HistoryViewTest, KeysReachEveryRowAndTheClipboard)
     driver.press(Qt::Key_Delete);
     ASSERT_EQ(windows.store.items().size(), 1);
     EXPECT_EQ(windows.store.items().first().text, u"older text"_s);
-    driver.press(Qt::Key_W, Qt::ControlModifier);
-    EXPECT_FALSE(windows.history->isVisible());
+    for (const auto &[key, modifiers] : {std::pair(Qt::Key_W, Qt::ControlModifier), {Qt::Key_Escape, {}}}) {
+        openHistory().press(key, modifiers);
+        EXPECT_FALSE(windows.history->isVisible());
+    }
 }
 
 TEST_F(HistoryViewTest, ALongTranscriptIsShownPieceByPiece)
@@ -207,6 +209,24 @@ TEST_F(HistoryViewTest, AKeyHeldDownActsOnce)
         driver.repeat(key);
         EXPECT_EQ(windows.groups.groups().size(), left);
     }
+}
+
+TEST_F(HistoryViewTest, DeletingOrDraggingAGroupLeavesItsNeighboursAlone)
+{
+    addGroups(4);
+    ViewDriver driver = openHistory(true);
+    ASSERT_TRUE(await([&] { return driver.find("PaperField", "text", u"group 1"_s) != nullptr; }));
+    const auto rowOf = [&](int number) { return driver.find("GroupRow", "name", u"group %1"_s.arg(number)); };
+    const QQuickItem *const first = rowOf(1);
+    const QPoint trash = first->mapToScene({first->width() - 19, first->height() / 2}).toPoint();
+    QTest::mouseDClick(&driver.view(), Qt::LeftButton, {}, trash);
+    driver.press(Qt::Key_Space);
+    EXPECT_EQ(groupNames(), QStringList({u"group 2"_s, u"group 3"_s, u"group 4"_s}));
+
+    const QPoint grip = rowOf(2)->mapToScene({10, first->height() / 2}).toPoint();
+    driver.drag(grip, grip + QPoint(0, 44), {}, Qt::Key_Escape);
+    EXPECT_EQ(groupNames().first(), u"group 2"_s);
+    EXPECT_TRUE(windows.history->isEditingGroups());
 }
 
 TEST_F(HistoryViewTest, TabGoesThroughALongListOfGroupsAndBringsEachIntoSight)

@@ -62,11 +62,15 @@ public:
             QCoreApplication::sendEvent(&m_view, &event);
         }
     }
-    void drag(QPoint from, QPoint to, Qt::KeyboardModifiers modifiers = {})
+    /// A key pressed on the way is `keyMeanwhile`.
+    void drag(QPoint from, QPoint to, Qt::KeyboardModifiers modifiers = {}, Qt::Key keyMeanwhile = {})
     {
         QTest::mousePress(&m_view, Qt::LeftButton, modifiers, from);
         for (int step = 1; step <= 8; ++step) {
             QTest::mouseMove(&m_view, from + (to - from) * step / 8);
+            if (step == 6 && keyMeanwhile != Qt::Key()) {
+                press(keyMeanwhile);
+            }
         }
         QTest::mouseRelease(&m_view, Qt::LeftButton, modifiers, to);
     }

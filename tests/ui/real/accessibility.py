@@ -3,10 +3,11 @@
 """Looks at the programs on the accessibility bus as a screen reader does, and acts on them.
 
 usage: accessibility.py find ROLE NAME          waits for it and prints its role, name and states
+       accessibility.py absent ROLE NAME        waits until it is not there
        accessibility.py press ROLE NAME         presses it
        accessibility.py focus ROLE NAME         gives it the keyboard focus
        accessibility.py hear ROLE NAME COMMAND  runs the command, every two seconds, until it is told that this shows
-A NAME that ends in "*" is the beginning of a name. Exit status 1: not there within ten seconds."""
+A NAME that ends in "*" is the beginning of a name. Exit status 1: not there, or still there, after ten seconds."""
 
 import subprocess
 import sys
@@ -19,7 +20,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 ACTIONS = {"press": "Press", "focus": "SetFocus"}
-STATES = [Atspi.StateType.FOCUSABLE, Atspi.StateType.SELECTED, Atspi.StateType.CHECKED, Atspi.StateType.ENABLED]
+STATES = [Atspi.StateType.FOCUSABLE, Atspi.StateType.FOCUSED, Atspi.StateType.SELECTED, Atspi.StateType.CHECKED, Atspi.StateType.ENABLED]
 
 
 def descendants(node):
@@ -54,6 +55,14 @@ def find(role, name):
     sys.exit(f"there is no {role} {name!r} among:\n" + "\n".join(seen))
 
 
+def absent(role, name):
+    deadline = time.monotonic() + 10
+    while any(matches(node, role, name) for node in descendants(Atspi.get_desktop(0))):
+        if time.monotonic() > deadline:
+            sys.exit(f"there still is a {role} {name!r}")
+        time.sleep(0.05)
+
+
 def hear(role, name, command):
     def take(event):
         if event.detail1 == 1 and is_called(event.source, role, name):
@@ -78,6 +87,8 @@ def main():
     command, role, name = sys.argv[1:4]
     if command == "hear":
         return hear(role, name, sys.argv[4:])
+    if command == "absent":
+        return absent(role, name)
     node = find(role, name)
     if command in ACTIONS:
         action = node.get_action_iface()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "ui/windows/ViewWindow.h"
+#include "ui/windows/makeViewWindow.h"
 
+#include <QCoreApplication>
 #include <QQmlEngine>
 #include <QQuickView>
 
@@ -17,6 +18,7 @@ std::unique_ptr<QQuickView> makeViewWindow(QQmlEngine &engine, const QString &vi
         engine.addImportPath(importPath);
     }
     auto window = std::make_unique<QQuickView>(&engine, nullptr);
+    QObject::connect(&engine, &QQmlEngine::quit, window.get(), &QCoreApplication::quit, Qt::QueuedConnection);
     window->setInitialProperties(properties);
     window->setSource(QUrl(importPath + u"/Quillo/"_s + view + u".qml"_s));
     return window;
