@@ -141,5 +141,10 @@ net::awaitable<Reply> CheckoutEndpoints::receiveEvent(const Request &request)
         logLine(credited ? "a purchase was credited"
                          : "a payment event was a repetition, or about no purchase of ours at this price");
     }
+    if (const auto &refund = event->refund) {
+        const auto taken = co_await m_store.run([&](Store &store) { return store.checkout.takeBack(*refund); });
+        logLine(taken ? "tokens were taken back for a refund or a dispute"
+                      : "a refund was a repetition, or of no purchase of ours");
+    }
     co_return jsonReply({{u"received"_s, true}});
 }

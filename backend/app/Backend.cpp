@@ -65,7 +65,7 @@ std::string urlOf(const net::ip::tcp::endpoint &endpoint)
     return "http://" + host + ":" + std::to_string(endpoint.port());
 }
 
-/// With the address of checkout links, which is that of the listening socket when the operator names none.
+/// Adds the address for checkout links, which is that of the listening socket when the operator names none.
 ApiOptions reachedAt(const net::ip::tcp::endpoint &endpoint, ApiOptions options)
 {
     using Provider = CheckoutOptions::Provider;
@@ -167,7 +167,7 @@ void Backend::awaitReload()
     });
 }
 
-/// With wrong settings, everything stays as it is.
+/// Leaves everything as it is when the new settings are wrong.
 void Backend::reload()
 {
     try {

@@ -31,6 +31,7 @@ void serve(const Settings &settings, const QStringList &)
     std::cout << "quillo-backend listening on " << backend.url() << std::endl;
     if (!backend.run()) {
         logLine("transcriptions that took too long were refused");
+        flushLog();
         // Not every engine can be interrupted. The database is sound at any moment; see Ledger.
         std::_Exit(0);
     }
@@ -57,6 +58,15 @@ const QList<Command> &commands()
          storeSettingsOf,
          showLedger},
         {{u"ledger"_s, u"ID"_s}, u"Those of one device."_s, storeSettingsOf, showLedger},
+        {{u"backup"_s, u"FILE"_s},
+         u"Copy the SQLite database as it is now, also while it is used."_s,
+         storeSettingsOf,
+         backUp},
+        {{u"restore"_s, u"FILE"_s}, u"Put such a copy where no database is yet."_s, storeSettingsOf, restore},
+        {{u"check"_s},
+         u"Say whether the database is sound and every balance explained."_s,
+         storeSettingsOf,
+         checkDatabase},
         {{u"engine"_s, u"test"_s, u"FILE"_s},
          u"Transcribe an MPEG-4 file and say how long it took."_s,
          settingsOf,
@@ -69,7 +79,7 @@ const QList<Command> &commands()
     return all;
 }
 
-/// The words that stand for those in capitals, or nothing when the command is another.
+/// Returns the words that stand for those in capitals, or nothing when the command is another.
 std::optional<QStringList> match(const Command &command, const QStringList &words)
 {
     if (command.words.size() != words.size()) {
@@ -96,7 +106,7 @@ QString describedCommands()
                   "configuration file (free-tokens = 10), too; the command line wins, then the environment."_s;
 }
 
-/// With the negative number that "grant" ends with where the parser does not take it for an option.
+/// Moves the negative number that "grant" ends with to where the parser does not take it for an option.
 QStringList withNumberAtEnd(QStringList arguments)
 {
     const auto isNegative = [](const QString &word) { return word.size() > 1 && word[0] == u'-' && word[1].isDigit(); };

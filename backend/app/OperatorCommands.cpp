@@ -16,7 +16,7 @@ namespace {
 
 constexpr int pageSize = 1000;
 
-/// Never a new, empty one: the operator has mistyped where the devices are.
+/// Opens no new, empty database: if there is none, the operator has mistyped where the devices are.
 Store openStore(const Settings &settings)
 {
     if (!Database::isPostgreSql(settings.database) && !QFile::exists(settings.database)) {
@@ -63,6 +63,13 @@ QString line(const DeviceRecord &device)
 [[noreturn]] void failUnknown(const QString &id)
 {
     throw StoreError("there is no device " + id.toStdString());
+}
+
+void failUnexplained(Store &store)
+{
+    if (const auto unexplained = store.ledger.unexplained(); !unexplained.isEmpty()) {
+        throw StoreError("the entries do not add up to the balance of " + unexplained.join(u", "_s).toStdString());
+    }
 }
 
 void print(Store &store, const QString &id)
@@ -151,9 +158,45 @@ void showLedger(const Settings &settings, const QStringList &words)
         }
         entries = store.ledger.entries(id, entries.last().id, pageSize);
     }
-    if (const auto unexplained = store.ledger.unexplained(); !unexplained.isEmpty()) {
-        throw StoreError("the entries do not add up to the balance of " + unexplained.join(u", "_s).toStdString());
+    failUnexplained(store);
+}
+
+void backUp(const Settings &settings, const QStringList &words)
+{
+    openStore(settings).database.backUp(words[0]);
+}
+
+/// Copies the file to where no database is yet, and gives it its name once it is known to be sound.
+void restore(const Settings &settings, const QStringList &words)
+{
+    const auto copy = settings.database + u".restored"_s;
+    if (Database::isPostgreSql(settings.database)) {
+        throw StoreError("PostgreSQL is restored by pg_restore");
     }
+    if (QFile::exists(settings.database)) {
+        throw StoreError("there is a database " + settings.database.toStdString() + "; move it away first");
+    }
+    QFile::remove(copy);
+    if (!QFile::exists(words[0]) || !QFile::copy(words[0], copy)) {
+        throw StoreError(words[0].toStdString() + " can't be copied beside the database");
+    }
+    QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
+    auto place = settings;
+    place.database = copy;
+    checkDatabase(place, {});
+    QFile::rename(copy, settings.database);
+}
+
+void checkDatabase(const Settings &settings, const QStringList &)
+{
+    auto store = openStore(settings);
+    if (const auto damages = store.database.damages(); !damages.isEmpty()) {
+        throw StoreError("the database is damaged: " + damages.join(u"; "_s).toStdString());
+    }
+    failUnexplained(store);
+    print(u"The database is sound: version %1, %2 devices, and every balance is explained."_s
+              .arg(store.database.version())
+              .arg(store.devices.count()));
 }
 
 void testEngine(const Settings &settings, const QStringList &words)

@@ -13,5 +13,8 @@ void unmeterDevice(const Settings &settings, const QStringList &words);
 void meterDevice(const Settings &settings, const QStringList &words);
 void revokeDevice(const Settings &settings, const QStringList &words);
 void showLedger(const Settings &settings, const QStringList &words);
+void backUp(const Settings &settings, const QStringList &words);
+void restore(const Settings &settings, const QStringList &words);
+void checkDatabase(const Settings &settings, const QStringList &words);
 void testEngine(const Settings &settings, const QStringList &words);
 void checkConfiguration(const Settings &settings, const QStringList &words);

@@ -5,6 +5,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QProcessEnvironment>
 #include <QUrl>
 
 #include <toml++/toml.h>
@@ -22,9 +24,11 @@ QCommandLineOption option(const char *name, const char *help, const char *value,
             QString::fromLatin1(standard)};
 }
 
+const QString variablePrefix = u"QUILLO_BACKEND_"_s;
+
 QString variableOf(const QString &name)
 {
-    return u"QUILLO_BACKEND_"_s + name.toUpper().replace(u'-', u'_');
+    return variablePrefix + name.toUpper().replace(u'-', u'_');
 }
 
 bool isKnown(const QString &name)
@@ -32,7 +36,7 @@ bool isKnown(const QString &name)
     return std::ranges::any_of(Options::all(), [&](const auto &known) { return known.names().contains(name); });
 }
 
-/// As it would stand on the command line; null for what can't stand there.
+/// Returns the value as it would stand on the command line, or null when it can't stand there.
 QString textOf(const toml::node &node)
 {
     if (const auto *text = node.as_string()) {
@@ -85,14 +89,24 @@ QList<QCommandLineOption> Options::all()
         option("access-log", "json writes a line per request on the standard error stream (none).", "format", "none"),
         option("database", "SQLite file or postgresql:// URI ($XDG_DATA_HOME/quillo-backend/backend.db).", "database"),
         option("database-file", "File that holds that URI, if it has a password.", "file"),
-        option("engine", "pocketsphinx or openai (pocketsphinx).", "engine", "pocketsphinx"),
-        option("engine-queue", "Recordings that may wait for the engine or be in it (pocketsphinx: 8, openai: 256).",
-               "n"),
-        option("openai-base-url", "Server with OpenAI's transcription endpoint (https://api.openai.com/v1).", "url",
-               "https://api.openai.com/v1"),
+        option("engine", "pocketsphinx, openai, command or wyoming (pocketsphinx).", "engine", "pocketsphinx"),
+        option("engine-queue", "Recordings that may wait for the engine or be in it (openai: 256, others: 8).", "n"),
+        option("language", "Language spoken where a request names none, such as en; recognised without it.",
+               "language"),
+        option("command", "Program and arguments: {file}, or standard input, is the recording; {language}; {prompt}.",
+               "list"),
+        option("command-timeout", "Seconds for a transcription (110).", "seconds", "110"),
+        option("command-memory", "MiB that the program may have; 0: no limit (0).", "n", "0"),
+        option("command-cpu", "Seconds of processor time for the program; 0: no limit (0).", "seconds", "0"),
+        option("command-concurrency", "Programs at the same time (1).", "n", "1"),
+        option("wyoming-server", "Host and port of a speech-to-text server of the Wyoming protocol.", "server"),
+        option("wyoming-timeout", "Seconds for a transcription (110).", "seconds", "110"),
+        option("wyoming-concurrency", "Transcriptions at the same time (1).", "n", "1"),
+        option("openai-base-url",
+               "Servers with OpenAI's transcription endpoint, the first that works (https://api.openai.com/v1).",
+               "list", "https://api.openai.com/v1"),
         option("openai-model", "Model to ask that server for (whisper-1).", "model", "whisper-1"),
         option("openai-key-file", "File that holds that server's key; none is sent without it.", "file"),
-        option("openai-language", "Language spoken, such as en; recognised without it.", "language"),
         option("openai-prompt", "Spellings and style for that server to follow.", "text"),
         option("openai-timeout", "Seconds for a transcription with its repetitions (110).", "seconds", "110"),
         option("openai-attempts", "How often a transcription is tried (3).", "n", "3"),
@@ -123,6 +137,12 @@ Options::Options(const QCommandLineParser &parser) : m_parser(parser)
             m_values.insert(name, {qEnvironmentVariable(variable.toLatin1().constData()), variable});
         }
     }
+    for (const auto &variable : QProcessEnvironment::systemEnvironment().keys()) {
+        const auto isMeant = [&](const auto &known) { return variableOf(known.names().constFirst()) == variable; };
+        if (variable.startsWith(variablePrefix) && !std::ranges::any_of(all(), isMeant)) {
+            failSettings(variable + u" is no option"_s);
+        }
+    }
     if (const auto path = (*this)[u"config"_s]; !path.isEmpty()) {
         readFile(path);
     }
@@ -131,7 +151,7 @@ Options::Options(const QCommandLineParser &parser) : m_parser(parser)
 void Options::readFile(const QString &path)
 {
     std::ifstream stream(QFile::encodeName(path).toStdString());
-    if (!stream) {
+    if (!stream || QFileInfo(path).isDir()) {
         fail(u"config"_s, u"%1 can't be read"_s.arg(path));
     }
     toml::table table;
@@ -186,7 +206,20 @@ qint64 Options::number(const QString &name, qint64 least, qint64 most) const
 
 std::string Options::url(const QString &name) const
 {
-    auto value = (*this)[name];
+    return url(name, (*this)[name]);
+}
+
+std::vector<std::string> Options::urls(const QString &name) const
+{
+    std::vector<std::string> urls;
+    for (const auto &item : list(name)) {
+        urls.push_back(url(name, item));
+    }
+    return urls;
+}
+
+std::string Options::url(const QString &name, QString value) const
+{
     while (value.endsWith(u'/')) {
         value.chop(1);
     }

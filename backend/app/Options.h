@@ -8,6 +8,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 /// A wrong value on the command line, in the environment or in the configuration file, in one line for the operator
 /// that says where it stands.
@@ -23,7 +24,7 @@ public:
 /// by default.
 class Options {
 public:
-    /// Those that take a value.
+    /// Lists the options that take a value.
     static QList<QCommandLineOption> all();
 
     /// Reads the configuration file. Throws SettingsError for what can't be read and for keys that are no options.
@@ -33,8 +34,9 @@ public:
 
     /// All throw SettingsError, naming the place, when the value is another.
     qint64 number(const QString &name, qint64 least, qint64 most) const;
-    /// Without a "/" at its end; empty when the option is.
+    /// The address without a "/" at its end; it is empty when the option is.
     std::string url(const QString &name) const;
+    std::vector<std::string> urls(const QString &name) const;
     /// The items of a list that are separated by commas (in the file: an array).
     QStringList list(const QString &name) const;
     /// What is in the file that the option `name` names, else the credential `credential` that systemd passed
@@ -51,6 +53,7 @@ private:
         QString place;
     };
 
+    std::string url(const QString &name, QString value) const;
     void readFile(const QString &path);
 
     const QCommandLineParser &m_parser;

@@ -17,7 +17,7 @@ constexpr qint64 mostTokens = 1'000'000'000'000;
 constexpr int embeddedQueue = 8;
 constexpr int serverQueue = 256;
 
-/// The value that `choices` gives to the option's text.
+/// Returns the value that `choices` gives to the option's text.
 template <class T> T choice(const Options &options, const QString &name, const QList<std::pair<QString, T>> &choices)
 {
     QStringList names;
@@ -62,7 +62,11 @@ QString database(const Options &options)
     if (location.isEmpty() && secret.isEmpty()) {
         return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/quillo-backend/backend.db"_s;
     }
-    return location + secret;
+    const auto found = location + secret;
+    if (found.contains(u"://"_s) && !Database::isPostgreSql(found)) {
+        options.fail(u"database"_s, u"must be a file or a postgresql:// URI"_s);
+    }
+    return found;
 }
 
 /// Fails when a key would be sent to another machine in the clear.
@@ -78,10 +82,10 @@ void requireSecrecy(const Options &options, const QString &name, const std::stri
 OpenAiOptions openAi(const Options &options)
 {
     OpenAiOptions openAi;
-    openAi.baseUrl = options.url(u"openai-base-url"_s);
+    openAi.baseUrls = options.urls(u"openai-base-url"_s);
     openAi.model = options[u"openai-model"_s].toStdString();
     openAi.key = options.secret(u"openai-key-file"_s, u"openai-key"_s);
-    openAi.language = options[u"openai-language"_s].toStdString();
+    openAi.language = options[u"language"_s].toStdString();
     openAi.prompt = options[u"openai-prompt"_s].toStdString();
     openAi.timeout = std::chrono::seconds(options.number(u"openai-timeout"_s, 1, 600));
     openAi.attempts = static_cast<int>(options.number(u"openai-attempts"_s, 1, 10));
@@ -91,8 +95,37 @@ OpenAiOptions openAi(const Options &options)
             options.fail(name, u"must not be empty"_s);
         }
     }
-    requireSecrecy(options, u"openai-base-url"_s, openAi.baseUrl, openAi.key);
+    for (const auto &baseUrl : openAi.baseUrls) {
+        requireSecrecy(options, u"openai-base-url"_s, baseUrl, openAi.key);
+    }
     return openAi;
+}
+
+CommandOptions command(const Options &options)
+{
+    constexpr qint64 mebibyte = 1024LL * 1024;
+    CommandOptions command;
+    command.command = options.list(u"command"_s);
+    command.language = options[u"language"_s].toStdString();
+    command.timeout = std::chrono::seconds(options.number(u"command-timeout"_s, 1, 600));
+    command.memory = options.number(u"command-memory"_s, 0, 1'000'000'000) * mebibyte;
+    command.processorTime = options.number(u"command-cpu"_s, 0, 1'000'000);
+    command.concurrency = static_cast<int>(options.number(u"command-concurrency"_s, 1, 256));
+    if (command.command.isEmpty()) {
+        options.fail(u"command"_s, u"must name the program to transcribe with, and its arguments"_s);
+    }
+    return command;
+}
+
+WyomingOptions wyoming(const Options &options)
+{
+    const QUrl url(u"tcp://"_s + options[u"wyoming-server"_s], QUrl::StrictMode);
+    if (url.host().isEmpty() || url.port() <= 0 || !url.path().isEmpty()) {
+        options.fail(u"wyoming-server"_s, u"must be a host and a port, such as 127.0.0.1:10300"_s);
+    }
+    return {url.host().toStdString(), std::to_string(url.port()), options[u"language"_s].toStdString(),
+            std::chrono::seconds(options.number(u"wyoming-timeout"_s, 1, 600)),
+            static_cast<int>(options.number(u"wyoming-concurrency"_s, 1, 256))};
 }
 
 std::vector<Pack> packs(const Options &options)
@@ -180,15 +213,27 @@ Settings settingsOf(const Options &options)
     }
     settings.server.drain = std::chrono::seconds(options.number(u"stop-timeout"_s, 0, 3600));
     settings.accessLog = choice<bool>(options, u"access-log"_s, {{u"none"_s, false}, {u"json"_s, true}});
-    settings.engine = choice<Settings::EngineKind>(
-        options, u"engine"_s,
-        {{u"pocketsphinx"_s, Settings::EngineKind::PocketSphinx}, {u"openai"_s, Settings::EngineKind::OpenAi}});
+    settings.engine = choice<Settings::EngineKind>(options, u"engine"_s,
+                                                   {{u"pocketsphinx"_s, Settings::EngineKind::PocketSphinx},
+                                                    {u"openai"_s, Settings::EngineKind::OpenAi},
+                                                    {u"command"_s, Settings::EngineKind::Command},
+                                                    {u"wyoming"_s, Settings::EngineKind::Wyoming}});
     settings.engineQueue = settings.engine == Settings::EngineKind::OpenAi ? serverQueue : embeddedQueue;
     if (!options[u"engine-queue"_s].isEmpty()) {
         settings.engineQueue = static_cast<int>(options.number(u"engine-queue"_s, 1, 100'000));
     }
-    if (settings.engine == Settings::EngineKind::OpenAi) {
+    switch (settings.engine) {
+    case Settings::EngineKind::OpenAi:
         settings.openAi = openAi(options);
+        break;
+    case Settings::EngineKind::Command:
+        settings.command = command(options);
+        break;
+    case Settings::EngineKind::Wyoming:
+        settings.wyoming = wyoming(options);
+        break;
+    case Settings::EngineKind::PocketSphinx:
+        break;
     }
     settings.api.transcription.tokensPerSecond = options.number(u"tokens-per-second"_s, 0, 1'000'000);
     settings.api.transcription.atOncePerDevice =

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/CommandLine.h"
+#include "support/Log.h"
 
 #include <QCoreApplication>
 
@@ -8,5 +9,7 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("quillo-backend"));
     QCoreApplication::setApplicationVersion(QStringLiteral(QUILLO_VERSION));
-    return runCommandLine(QCoreApplication::arguments());
+    const auto status = runCommandLine(QCoreApplication::arguments());
+    flushLog();
+    return status;
 }

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -16,6 +17,8 @@ struct Recording {
     /// What an engine that knows nothing to do with them ignores. Either may be empty.
     std::string language = {}; ///< spoken in it, BCP 47, such as "de"
     std::string prompt = {};   ///< spellings and style to follow
+    /// Whether anybody still waits for the text; any thread.
+    std::function<bool()> wanted = [] { return true; };
 };
 
 /// The engine can't transcribe now. The text is for the operator; it holds no secret and nothing that was said.

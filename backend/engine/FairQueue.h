@@ -17,10 +17,10 @@ public:
     /// `turns` can be had at the same time.
     explicit FairQueue(int turns) : m_free(turns) {}
 
-    /// Ends with its last copy, which must go before the queue does.
+    /// A turn ends with its last copy, which must go before the queue does.
     using Turn = std::shared_ptr<void>;
 
-    /// Waits for a turn. Null when stop() came first.
+    /// Waits for a turn. Returns null when stop() came first.
     net::awaitable<Turn> enter(std::string owner);
 
     /// Sends away who waits and who comes; the turns that were given go on.

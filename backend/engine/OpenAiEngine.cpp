@@ -79,6 +79,12 @@ struct OpenAiEngine::Answer {
                (result == CURLE_OK && (status == 429 || status >= 500));
     }
 
+    /// Whether the fault is the server's and not the recording's, so that another server may do better.
+    bool isFault() const
+    {
+        return result != CURLE_OK || status == 401 || status == 403 || status == 404 || status == 429 || status >= 500;
+    }
+
     QString text() const
     {
         if (result != CURLE_OK) {
@@ -97,20 +103,45 @@ struct OpenAiEngine::Answer {
     }
 };
 
-OpenAiEngine::OpenAiEngine(OpenAiOptions options) : m_options(std::move(options)) {}
+OpenAiEngine::OpenAiEngine(OpenAiOptions options) : m_options(std::move(options))
+{
+    for (const auto &baseUrl : m_options.baseUrls) {
+        m_servers.emplace_back().baseUrl = baseUrl;
+    }
+}
 
 QString OpenAiEngine::transcribe(const Recording &recording)
 {
     const auto deadline = std::chrono::steady_clock::now() + m_options.timeout;
     for (int attempt = 1;; ++attempt) {
-        const auto answer = ask(recording, deadline);
+        Answer answer;
+        for (auto *server : servers()) {
+            answer = ask(*server, recording, deadline);
+            if (!answer.isFault()) {
+                server->restsUntil = Deadline();
+                return answer.text();
+            }
+            server->restsUntil = std::chrono::steady_clock::now() + m_options.rest;
+        }
         if (!answer.isTemporary() || attempt >= m_options.attempts || !wait(answer, attempt, deadline)) {
             return answer.text();
         }
     }
 }
 
-/// False when the delay does not fit in before the deadline.
+/// Returns the servers in the order in which they are asked: those that rest come last.
+std::vector<OpenAiEngine::Server *> OpenAiEngine::servers()
+{
+    const auto now = std::chrono::steady_clock::now();
+    std::vector<Server *> all;
+    for (auto &server : m_servers) {
+        all.push_back(&server);
+    }
+    std::ranges::stable_partition(all, [now](const Server *server) { return server->restsUntil.load() <= now; });
+    return all;
+}
+
+/// Returns false, at once, when the delay does not fit in before the deadline.
 bool OpenAiEngine::wait(const Answer &answer, int attempt, Deadline deadline) const
 {
     std::chrono::milliseconds delay = m_options.firstDelay * (1 << (attempt - 1));
@@ -124,9 +155,9 @@ bool OpenAiEngine::wait(const Answer &answer, int attempt, Deadline deadline) co
     return true;
 }
 
-OpenAiEngine::Answer OpenAiEngine::ask(const Recording &recording, Deadline deadline) const
+OpenAiEngine::Answer OpenAiEngine::ask(const Server &server, const Recording &recording, Deadline deadline) const
 {
-    const auto url = m_options.baseUrl + "/audio/transcriptions";
+    const auto url = server.baseUrl + "/audio/transcriptions";
     Answer answer;
     const auto transfer = newCurlTransfer(url, answer.body);
     auto *curl = transfer.get();

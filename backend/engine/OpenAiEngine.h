@@ -3,11 +3,15 @@
 
 #include "engine/Engine.h"
 
+#include <atomic>
 #include <chrono>
+#include <list>
 #include <string>
+#include <vector>
 
 struct OpenAiOptions {
-    std::string baseUrl = {}; ///< such as "https://api.openai.com/v1", without a "/" at its end
+    /// Such as "https://api.openai.com/v1", without a "/" at their ends. The first one that works is asked.
+    std::vector<std::string> baseUrls = {};
     std::string model;
     std::string key = {};      ///< may be empty: no authorization is sent then
     std::string language = {}; ///< ISO 639-1, such as "de"; empty: the server recognises it
@@ -18,11 +22,13 @@ struct OpenAiOptions {
     int concurrency = 8;
     /// Before the second attempt, when the server names no delay of its own; twice as long before each further one.
     std::chrono::milliseconds firstDelay{500};
+    std::chrono::seconds rest{30}; ///< for which the others are asked before a server that failed
 };
 
 /// Any server with OpenAI's transcription endpoint: POST {baseUrl}/audio/transcriptions. The uploaded file is passed on
 /// as it is. Certificates are verified and redirects are not followed, so the key reaches the configured server only.
-/// Status 429, 5xx and a connection that can't be made are tried again, after the delay the server asks for.
+/// Status 429, 5xx and a connection that can't be made are tried again: with the next server at once, and when none is
+/// left, after the delay that the last one asks for.
 class OpenAiEngine : public Engine {
 public:
     explicit OpenAiEngine(OpenAiOptions options);
@@ -33,9 +39,15 @@ public:
 private:
     struct Answer;
     using Deadline = std::chrono::steady_clock::time_point;
+    struct Server {
+        std::string baseUrl;
+        std::atomic<Deadline> restsUntil = Deadline();
+    };
 
-    Answer ask(const Recording &recording, Deadline deadline) const;
+    std::vector<Server *> servers();
+    Answer ask(const Server &server, const Recording &recording, Deadline deadline) const;
     bool wait(const Answer &answer, int attempt, Deadline deadline) const;
 
     OpenAiOptions m_options;
+    std::list<Server> m_servers;
 };

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int decoders = 2;
 
-/// Of the calling thread. It does not count what others did meanwhile.
+/// The time that the calling thread has had a processor for; what others did meanwhile does not count.
 std::chrono::nanoseconds processorTime()
 {
     timespec time{};
@@ -83,11 +83,11 @@ net::awaitable<std::optional<QString>> Transcriber::transcribe(Job &job)
         }
         const auto started = std::chrono::steady_clock::now();
         const auto measured = qScopeGuard([&] { job.transcribing = std::chrono::steady_clock::now() - started; });
-        return engine->transcribe({job.file, m_longest, job.language, job.prompt});
+        return engine->transcribe({job.file, m_longest, job.language, job.prompt, job.wanted});
     });
 }
 
-/// Waits in the queue and not in the threads' own, out of which nothing could be taken.
+/// Jobs wait in this queue and not in the threads' own, because nothing could be taken out of that.
 net::awaitable<FairQueue::Turn> Transcriber::awaitTurn(FairQueue &queue, Job &job)
 {
     const auto started = std::chrono::steady_clock::now();

@@ -42,21 +42,21 @@ public:
     /// One recording's place, held from its inspection to its text.
     using Place = std::shared_ptr<void>;
 
-    /// Null when all places are taken, and after stop(). I/O thread.
+    /// Returns null when all places are taken, and after stop(). I/O thread.
     Place enter();
 
-    /// Nothing when stop() came first. I/O thread. Throws AudioError; `job` tells what it took all the same.
+    /// Returns nothing when stop() came first. I/O thread. Throws AudioError; `job` tells what it took all the same.
     net::awaitable<std::optional<Inspection>> inspect(Job &job);
 
     /// Nothing when the engine was not run: it is not wanted any more, or stop() came first. I/O thread. Throws
     /// EngineError.
     net::awaitable<std::optional<QString>> transcribe(Job &job);
 
-    /// For the transcriptions that begin from now on, as many at a time as before. The engine must need no preparation.
+    /// Takes effect with the next transcription; as many run at a time as before. The engine must need no preparation.
     /// I/O thread.
     void replaceEngine(std::shared_ptr<Engine> engine) { m_engine = std::move(engine); }
 
-    /// Lets nothing more in and nothing that waits to the engine; what it has begun goes on. I/O thread.
+    /// Lets nothing more in, and sends away what waits for the engine; what it has begun goes on. I/O thread.
     void stop();
 
     State state() const { return m_state; }

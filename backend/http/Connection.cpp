@@ -25,11 +25,11 @@ using Message = http::response<http::string_body>;
 
 constexpr size_t readAhead = 128UL * 1024;
 constexpr size_t mostDiscarded = 64UL * 1024 * 1024;
-// For a request that a client is sending while the server stops.
+// How long a client has for a request that it is just sending while the server stops.
 constexpr std::chrono::seconds lastChance{1};
 constexpr unsigned standardVersion = 11; // HTTP/1.1
 
-/// The client's own fault, in contrast to a connection that ended.
+/// Returns the reply to what is the client's fault. A connection that has ended is none, and throws.
 std::optional<Reply> replyTo(const beast::error_code &error)
 {
     if (!error) {
@@ -192,7 +192,7 @@ net::awaitable<bool> Connection::serve(Exchange &exchange)
     } else {
         reply = co_await handle(exchange);
     }
-    // Now, so that a client which has its reply can have the next.
+    // The next request may come as soon as the client has its reply.
     memory.release();
     request.admission.reset();
     const auto isAbandoned = m_state == State::Abandoned;
@@ -229,8 +229,8 @@ net::awaitable<std::optional<Reply>> Connection::readHeader(Exchange &exchange)
     if (auto refusal = replyTo(error)) {
         co_return refusal;
     }
-    // Now, and not when the body is there too: the parser adds the lines that follow a chunked body to the header, and
-    // no proxy has looked at those.
+    // The head is taken now and not with the body: the parser adds the lines that follow a chunked body to the header,
+    // and no proxy has looked at those.
     exchange.request = headOf(parser, clientAddress(parser, m_peer, m_options.trustedProxies));
     if (!isUnambiguous(parser)) {
         co_return Refusal::badRequest().reply();
@@ -317,8 +317,8 @@ net::awaitable<void> Connection::tellSent(Reply &reply, bool delivered)
     }
 }
 
-/// The rest of a body that was refused, of which some was received. Some clients look for the reply only when they have
-/// sent all, and take a connection that closes before for a failure.
+/// Reads the rest of a body that was refused, of which some was received. Some clients look for the reply only when
+/// they have sent all, and take a connection that closes before for a failure.
 net::awaitable<void> Connection::discardBody(const RequestParser &parser, size_t received)
 {
     if (parser.is_header_done() && parser.content_length()) {

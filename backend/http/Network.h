@@ -9,7 +9,7 @@
 /// A block of IP addresses in CIDR notation, such as "10.0.0.0/8" or "2001:db8::/32".
 class Network {
 public:
-    /// A single address is a block, too. Nothing when the text is neither.
+    /// A single address is a block, too. Returns nothing when the text is neither.
     static std::optional<Network> parse(const std::string &text);
 
     bool contains(const boost::asio::ip::address &address) const;

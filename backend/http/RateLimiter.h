@@ -13,7 +13,7 @@ public:
     using Clock = std::chrono::steady_clock;
     using Time = std::chrono::milliseconds;
 
-    /// Nothing when the owner's bucket has `cost`, which is taken out; otherwise the time until it will.
+    /// Returns nothing when the owner's bucket has `cost`, which is taken out; otherwise the time until it will.
     std::optional<Time> take(const std::string &owner, Time cost, Time whole, Clock::time_point now);
 
     /// Takes out what has been used already, also when that is more than there is.

@@ -11,10 +11,10 @@
 
 using RequestParser = boost::beast::http::request_parser<boost::beast::http::string_body>;
 
-/// Header lines in bytes, and no body limit until the path is known.
+/// Limits the header to 16 KiB, and the body not until the path is known.
 void limitHeader(RequestParser &parser);
 
-/// A request target without its query and, when a client writes it as to a proxy, without the server.
+/// Returns a request target without its query and, when a client writes it as to a proxy, without the server.
 std::string pathOf(std::string_view target);
 
 /// Whether every server on the request's way reads it alike: where its body ends, and for which host it is.
@@ -27,5 +27,5 @@ bool isTrusted(const net::ip::address &address, std::span<const Network> trusted
 net::ip::address clientAddress(const RequestParser &parser, const net::ip::address &peer,
                                std::span<const Network> trustedProxies);
 
-/// Without the body.
+/// Returns the request without its body.
 Request headOf(const RequestParser &parser, const net::ip::address &address);

@@ -92,7 +92,7 @@ Reply Router::withoutRoute(const Request &request, std::string_view pattern) con
     return reply;
 }
 
-/// Those of the routes with this pattern, or of all when it is empty.
+/// Lists the methods of the routes with this pattern, or of all routes when it is empty.
 std::string Router::methods(std::string_view pattern) const
 {
     std::set<std::string> methods{"OPTIONS"};

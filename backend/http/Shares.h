@@ -11,13 +11,13 @@ public:
     /// 0 is no limit.
     explicit Shares(int each) : m_each(each) {}
 
-    /// For what is taken from now on.
+    /// Sets the limit for what is taken from now on.
     void limit(int each) { m_each = each; }
 
-    /// Given back with its last copy.
+    /// A share is given back with its last copy.
     using Share = std::shared_ptr<void>;
 
-    /// Null when the owner has all it may have.
+    /// Returns null when the owner has all it may have.
     Share take(const std::string &owner)
     {
         const auto place = m_taken.try_emplace(owner, 0).first;

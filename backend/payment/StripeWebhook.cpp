@@ -62,12 +62,20 @@ std::optional<PaymentEvent> verifyStripeEvent(std::string_view signature, std::s
     }
     const auto type = document[u"type"_s].toString();
     const auto session = document[u"data"_s].toObject()[u"object"_s].toObject();
+    const auto intent = session[u"payment_intent"_s].toString();
     // A session completes unpaid when the payment takes days, and the second type tells of its arrival.
     if ((type == u"checkout.session.completed"_s || type == u"checkout.session.async_payment_succeeded"_s) &&
         session[u"payment_status"_s].toString() == u"paid"_s) {
         event.payment.amount = session[u"amount_total"_s].toInteger(-1);
         event.payment.currency = session[u"currency"_s].toString();
+        event.payment.intent = intent;
         event.purchaseId = session[u"client_reference_id"_s].toString();
+    }
+    // A charge tells all that was paid back of it so far; a dispute, what it is about.
+    const auto isRefund = type == u"charge.refunded"_s;
+    if ((isRefund || type == u"charge.dispute.created"_s) && !intent.isEmpty()) {
+        event.refund = {event.payment.eventId, intent,
+                        session[isRefund ? u"amount_refunded"_s : u"amount"_s].toInteger(0)};
     }
     return event;
 }

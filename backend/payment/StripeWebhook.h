@@ -7,10 +7,11 @@
 #include <string>
 #include <string_view>
 
-/// Stripe's message that something was paid.
+/// Stripe's message that something was paid or paid back.
 struct PaymentEvent {
     Payment payment;
-    QString purchaseId; ///< empty when the event is about anything else
+    QString purchaseId; ///< empty when the event is about anything but a payment
+    std::optional<Refund> refund = {};
 };
 
 /// The event of a message whose Stripe-Signature header (`t=<seconds>,v1=<HMAC-SHA256 of "t.body">`, of which there may

@@ -3,13 +3,15 @@
 
 #include "support/Secrets.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// In seconds; twice as long as the desktop program watches for a purchase.
+// Links live twice as long, in seconds, as the desktop program watches for a purchase.
 constexpr qint64 lifetime = 1800;
 
 } // namespace
@@ -68,16 +70,15 @@ void Checkout::abandon(const QByteArray &token, const Purchase &purchase)
 
 std::optional<qint64> Checkout::complete(const QString &purchaseId, const std::optional<Payment> &payment)
 {
-    const auto now = m_clock();
     Transaction transaction(m_database);
-    if (payment &&
-        m_database.change(u"INSERT INTO payment_events (id, received_at) VALUES (?, ?) ON CONFLICT (id) DO NOTHING"_s,
-                          {payment->eventId, now}) == 0) {
+    if (payment && !isNew(payment->eventId)) {
         return std::nullopt;
     }
-    const auto purchase = m_database.first(u"UPDATE purchases SET credited_at = ? WHERE id = ? AND credited_at IS NULL"
-                                           " RETURNING device_id, tokens, price, currency"_s,
-                                           {now, purchaseId});
+    const auto purchase =
+        m_database.first(u"UPDATE purchases SET credited_at = ?, payment = ?"
+                         " WHERE id = ? AND credited_at IS NULL"
+                         " RETURNING device_id, tokens, price, currency"_s,
+                         {m_clock(), payment && !payment->intent.isNull() ? payment->intent : u""_s, purchaseId});
     if (!purchase || (payment && (purchase->at(2).toLongLong() != payment->amount ||
                                   purchase->at(3).toString() != payment->currency))) {
         return std::nullopt;
@@ -86,4 +87,36 @@ std::optional<qint64> Checkout::complete(const QString &purchaseId, const std::o
     m_ledger.credit(deviceId, purchase->at(1).toLongLong(), u"purchase"_s, purchaseId);
     transaction.commit();
     return m_ledger.balance(deviceId);
+}
+
+std::optional<qint64> Checkout::takeBack(const Refund &refund)
+{
+    Transaction transaction(m_database);
+    // It begins with a change, which makes another report of the same payment wait until the transaction's end.
+    const auto purchase = m_database.first(u"UPDATE purchases SET taken_back = taken_back"
+                                           " WHERE payment = ? AND credited_at IS NOT NULL"
+                                           " RETURNING id, device_id, tokens, price, taken_back"_s,
+                                           {refund.intent});
+    if (!isNew(refund.eventId) || !purchase) {
+        return std::nullopt;
+    }
+    const auto id = purchase->at(0).toString();
+    const auto deviceId = purchase->at(1).toString();
+    const auto tokens = purchase->at(2).toDouble();
+    const auto share = std::clamp(static_cast<double>(refund.amount) / purchase->at(3).toDouble(), 0.0, 1.0);
+    const auto owed = static_cast<qint64>(std::ceil(tokens * share)) - purchase->at(4).toLongLong();
+    if (owed <= 0) {
+        return std::nullopt;
+    }
+    m_database.change(u"UPDATE purchases SET taken_back = taken_back + ? WHERE id = ?"_s, {owed, id});
+    const auto taken = m_ledger.takeUpTo(deviceId, owed, u"refund"_s, id);
+    transaction.commit();
+    return taken;
+}
+
+bool Checkout::isNew(const QString &eventId)
+{
+    return m_database.change(u"INSERT INTO payment_events (id, received_at) VALUES (?, ?)"
+                             " ON CONFLICT (id) DO NOTHING"_s,
+                             {eventId, m_clock()}) == 1;
 }

@@ -22,10 +22,10 @@ class Checkout {
 public:
     Checkout(Database &database, Ledger &ledger, WallClock clock);
 
-    /// A new link's token; only its hash is kept.
+    /// Makes a link and returns its token, of which only the hash is kept.
     QByteArray addLink(const QString &deviceId);
 
-    /// Whether the link can still be used.
+    /// Tells whether the link can still be used.
     bool isValid(const QByteArray &token);
 
     /// Uses the link up for a purchase that is not paid yet. Nothing when the link is unknown, expired or used.
@@ -39,7 +39,13 @@ public:
     /// absent where nothing is paid.
     std::optional<qint64> complete(const QString &purchaseId, const std::optional<Payment> &payment = {});
 
+    /// Takes back what the purchase has brought, as far as the device still has it; the ledger tells how much that is
+    /// not. Tokens that were taken, or nothing when no purchase was paid so, or the event has been reported before.
+    std::optional<qint64> takeBack(const Refund &refund);
+
 private:
+    bool isNew(const QString &eventId);
+
     Database &m_database;
     Ledger &m_ledger;
     WallClock m_clock;

@@ -21,10 +21,11 @@ namespace {
 /// can't open. PostgreSQL's classes: connection, resources, the operator's intervention.
 bool isPassing(const QSqlError &error, const QSqlDatabase &connection)
 {
-    static const QSet<QString> codes{u"5"_s, u"6"_s, u"7"_s, u"10"_s, u"13"_s, u"14"_s};
+    static const QSet<int> codes{5, 6, 7, 10, 13, 14};
     static const QSet<QString> classes{u"08"_s, u"53"_s, u"57"_s};
     const auto code = error.nativeErrorCode();
-    return error.type() == QSqlError::ConnectionError || !connection.isOpen() || codes.contains(code) ||
+    return error.type() == QSqlError::ConnectionError || !connection.isOpen() ||
+           (code.size() < 5 && codes.contains(code.toInt() & 0xff)) ||
            (code.size() == 5 && classes.contains(code.first(2)));
 }
 
@@ -66,7 +67,7 @@ bool addressPostgreSql(QSqlDatabase &connection, const QString &location)
     QStringList options;
     bool limitsStatements = false;
     auto items = QUrlQuery(url).queryItems(QUrl::FullyDecoded);
-    // A server that is gone without a word, in seconds and milliseconds; libpq would wait for minutes or for ever.
+    // For a server that is gone without a word, libpq would wait for minutes or for ever. In seconds and milliseconds.
     for (const auto &limit : {std::pair(u"connect_timeout"_s, u"5"_s), std::pair(u"tcp_user_timeout"_s, u"10000"_s)}) {
         if (!QUrlQuery(url).hasQueryItem(limit.first)) {
             items.append(limit);
@@ -153,7 +154,7 @@ void Database::reconnect()
     }
 }
 
-/// Connected, and with SQLite set to wait for the disk or not, which is possible between transactions only.
+/// Connects, and sets SQLite to wait for the disk or not, which is possible between transactions only.
 Database &Database::readyFor(bool isVolatile)
 {
     reconnect();
@@ -195,6 +196,30 @@ void Database::migrate()
     }
     change(u"UPDATE schema_version SET version = ?"_s, {migrations().size()});
     transaction.commit();
+}
+
+void Database::backUp(const QString &file)
+{
+    if (m_postgreSql) {
+        throw StoreError("PostgreSQL is backed up by pg_dump");
+    }
+    if (QFile::exists(file)) {
+        throw StoreError(file.toStdString() + " exists");
+    }
+    createPrivately(file);
+    change(u"VACUUM INTO ?"_s, {file});
+}
+
+QStringList Database::damages()
+{
+    QStringList found;
+    if (!m_postgreSql) {
+        for (const auto &row : select(u"PRAGMA integrity_check"_s) + select(u"PRAGMA foreign_key_check"_s)) {
+            found.append(row[0].toString());
+        }
+        found.removeOne(u"ok"_s);
+    }
+    return found;
 }
 
 void Database::command(const QString &sql)

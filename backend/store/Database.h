@@ -45,6 +45,16 @@ public:
     /// How many rows were changed.
     qint64 change(const QString &sql, const Row &values = {});
 
+    /// Writes a copy as it is at one moment to a new file, readable by its owner only, while others go on working.
+    /// SQLite only; PostgreSQL has pg_dump.
+    void backUp(const QString &file);
+
+    /// What SQLite finds wrong with its file; nothing is found with a sound one. PostgreSQL looks after its files
+    /// itself.
+    QStringList damages();
+
+    qint64 version() { return first(QStringLiteral("SELECT version FROM schema_version"))->at(0).toLongLong(); }
+
 private:
     friend class Transaction;
 

@@ -91,6 +91,11 @@ QList<DeviceRecord> DeviceStore::list(const QString &after, int most)
     return records;
 }
 
+qint64 DeviceStore::count()
+{
+    return m_database.first(u"SELECT COUNT(*) FROM devices"_s)->at(0).toLongLong();
+}
+
 std::optional<DeviceRecord> DeviceStore::find(const QString &id)
 {
     const auto row = m_database.first(recordColumns() + u" WHERE id = ?"_s, {id});

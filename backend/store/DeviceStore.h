@@ -42,11 +42,12 @@ public:
     /// The device of "<deviceId>.<secret>", or nothing; what is wrong takes no different time to find out.
     std::optional<Device> authenticate(const QByteArray &credential);
 
-    /// Up to `most` devices in the order of their registration, after the device `after` (empty: from the first).
+    /// Lists up to `most` devices in the order of their registration, after the device `after` (empty: from the first).
     QList<DeviceRecord> list(const QString &after, int most);
+    qint64 count();
     std::optional<DeviceRecord> find(const QString &id);
 
-    /// Each is false when there is no such device.
+    /// Both return false when there is no such device.
     bool setUnmetered(const QString &id, bool unmetered);
     bool revoke(const QString &id); ///< its credential is refused from now on; there is no way back
 

@@ -3,6 +3,7 @@
 
 #include "support/Secrets.h"
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -115,6 +116,18 @@ bool Ledger::credit(const QString &deviceId, qint64 tokens, const QString &reaso
     }
     record(deviceId, tokens, reason, reference);
     return true;
+}
+
+qint64 Ledger::takeUpTo(const QString &deviceId, qint64 tokens, const QString &reason, const QString &reference)
+{
+    // It begins with a change, which makes others wait until the transaction's end.
+    const auto row =
+        m_database.first(u"UPDATE devices SET held = held WHERE id = ? RETURNING balance - held"_s, {deviceId});
+    const auto taken = std::min(row ? row->at(0).toLongLong() : 0, tokens);
+    const auto missing = taken < tokens ? u" (%1 missing)"_s.arg(tokens - taken) : QString();
+    m_database.change(u"UPDATE devices SET balance = balance - ? WHERE id = ?"_s, {taken, deviceId});
+    record(deviceId, -taken, reason, reference + missing);
+    return taken;
 }
 
 QList<LedgerEntry> Ledger::entries(const QString &deviceId, qint64 after, int most)

@@ -4,7 +4,8 @@
 #include "store/Database.h"
 #include "support/WallClock.h"
 
-/// One change to a balance, and why: "grant" (free tokens), "transcription", "purchase" or "operator".
+/// One change to a balance, and why: "grant" (free tokens), "transcription", "purchase", "refund" or
+/// "operator".
 struct LedgerEntry {
     qint64 id = 0;
     QString deviceId;
@@ -22,10 +23,10 @@ struct LedgerEntry {
 /// its holds lapse after `holdLifetime`.
 class Ledger {
 public:
-    /// That a device may have: whatever is added up, SQLite counts it in whole numbers.
+    /// The most tokens that a device may have, so that SQLite counts every sum in whole numbers.
     static constexpr qint64 mostTokens = 1'000'000'000'000'000;
 
-    /// In seconds; longer than a client waits for a transcript.
+    /// How long a hold lasts, in seconds: longer than a client waits for a transcript.
     static constexpr qint64 holdLifetime = 300;
 
     struct Hold {
@@ -39,7 +40,7 @@ public:
     /// What the device can see of its balance: without what is being delivered. The device must exist.
     qint64 balance(const QString &deviceId);
 
-    /// Nothing when the balance, less what is on hold already, does not cover `tokens`.
+    /// Returns nothing when the balance, less what is on hold already, does not cover `tokens`.
     std::optional<Hold> hold(const QString &deviceId, qint64 tokens);
 
     /// The balance as it is after this hold, or nothing when the hold has lapsed and the balance does not cover
@@ -53,10 +54,14 @@ public:
     /// the balance would not cover what is on hold or be above `mostTokens`, or there is no such device.
     bool credit(const QString &deviceId, qint64 tokens, const QString &reason, const QString &reference = {});
 
-    /// Of one device or of all, the oldest first, after the entry `after`.
+    /// Takes `tokens` inside the caller's transaction, or as many as are there and not on hold, which it returns. The
+    /// reference tells how many were missing.
+    qint64 takeUpTo(const QString &deviceId, qint64 tokens, const QString &reason, const QString &reference);
+
+    /// Lists the entries of one device or of all after the entry `after`, the oldest first.
     QList<LedgerEntry> entries(const QString &deviceId, qint64 after, int most);
 
-    /// The devices whose balance is not what their entries add up to.
+    /// Lists the devices whose balance is not what their entries add up to.
     QStringList unexplained();
 
 private:

@@ -56,6 +56,9 @@ protected:
 
     void start(Start start = {})
     {
+        api.reset();
+        transcriber.reset();
+        store.reset();
         server = std::make_unique<RunningServer>(start.server);
         store = std::make_unique<StoreThreads>(database.location(), GrantPolicy{.freeTokens = start.freeTokens}, clock);
         auto owned = std::make_unique<StubEngine>();
@@ -159,39 +162,6 @@ TEST_F(ApiTest, RefusesEveryWrongCredentialAlike)
     }
 }
 
-TEST_F(ApiTest, RefusesAnUploadBeforeItsBodyIsSent)
-{
-    start({.freeTokens = 0});
-    const auto head = [](const std::string &authorization) {
-        return "POST /v1/transcribe HTTP/1.1\r\nHost: test\r\nContent-Length: 8000000\r\n" + authorization + "\r\n";
-    };
-    EXPECT_EQ(connect().sendRaw(head({})).status, 401);
-    EXPECT_EQ(connect().sendRaw(head("Expect: 100-continue\r\n")).status, 401);
-    EXPECT_EQ(connect().sendRaw(head(registered())).status, 402);
-    // Also who listens only when all is sent gets the reply.
-    EXPECT_EQ(connect().sendRaw(head({}) + std::string(8'000'000, 'x')).status, 401);
-}
-
-TEST_F(ApiTest, HoldsNoMoreBodiesThanItHasMemoryFor)
-{
-    start({.server = {.bodies = multipart(tone()).size() + 1000}});
-    const auto device = registered();
-    std::latch entered(2);
-    auto first = connect();
-    occupyEngine(first, device, entered);
-    const auto refused = transcribe(device, tone());
-    EXPECT_EQ(refused.error(), "server_busy");
-    EXPECT_EQ(refused.status, 503);
-    EXPECT_GT(std::stoi(refused.retryAfter), 0);
-    const auto chunk = "POST /v1/transcribe HTTP/1.1\r\nHost: test\r\nTransfer-Encoding: chunked\r\n" + device +
-                       "\r\n500\r\n" + std::string(0x500, 'x');
-    EXPECT_EQ(connect().sendRaw(chunk).error(), "server_busy");
-    entered.arrive_and_wait();
-    EXPECT_EQ(first.receive().status, 200);
-    engine->together = nullptr;
-    EXPECT_EQ(transcribe(device, tone()).status, 200);
-}
-
 TEST_P(ApiDatabaseTest, TakesTheTokensOfADeliveredTranscriptAsSoonAsTheDatabaseLetsIt)
 {
     start({.freeTokens = 10, .api = {.transcription = {.chargeDelay = 1ms, .chargeAttempts = 14}}});
@@ -212,6 +182,85 @@ TEST_P(ApiDatabaseTest, TakesTheTokensOfADeliveredTranscriptAsSoonAsTheDatabaseL
     EXPECT_THAT(connect().send("GET", "/metrics").body, testing::HasSubstr("\nquillo_tokens_charged_total 2\n"));
     EXPECT_EQ(other.devices.list({}, 1).first().balance, 8);
     EXPECT_THAT(other.ledger.unexplained(), testing::IsEmpty());
+}
+
+TEST_F(ApiTest, RefusesAnUploadBeforeItsBodyIsSent)
+{
+    start({.freeTokens = 0});
+    const auto head = [](const std::string &headers, const char *length = "8000000") {
+        return "POST /v1/transcribe HTTP/1.1\r\nHost: test\r\nContent-Length: " + std::string(length) + "\r\n" +
+               headers + "\r\n";
+    };
+    EXPECT_EQ(connect().sendRaw(head({})).status, 401);
+    EXPECT_EQ(connect().sendRaw(head("Expect: 100-continue\r\n")).status, 401);
+    EXPECT_EQ(connect().sendRaw(head("Expect: 100-continue\r\n", "99999999999")).status, 413);
+    EXPECT_EQ(connect().sendRaw(head(registered())).status, 402);
+    // Also who listens only when all is sent gets the reply.
+    EXPECT_EQ(connect().sendRaw(head({}) + std::string(8'000'000, 'x')).status, 401);
+    const auto chunk = "POST /v1/devices HTTP/1.1\r\nHost: test\r\nTransfer-Encoding: chunked\r\n\r\n4001\r\n";
+    EXPECT_EQ(connect().sendRaw(chunk + std::string(0x4001, 'x')).status, 413);
+}
+
+TEST_F(ApiTest, RefusesWhatItHasNoRoomForUntilItHas)
+{
+    const auto oneBody = multipart(tone()).size() + 1000;
+    struct Case {
+        Start start;
+        unsigned status;
+        const char *error;
+        bool isTheDevices; ///< another device has room
+    };
+    for (const auto &[options, status, error, isTheDevices] :
+         {Case{{.server = {.bodies = oneBody}}, 503, "server_busy", false},
+          Case{{.places = 1}, 503, "engine_busy", false},
+          Case{{.api = {.transcription = {.atOncePerDevice = 1}}}, 429, "too_many_requests", true}}) {
+        SCOPED_TRACE(error);
+        start(options);
+        const auto device = registered();
+        std::latch entered(2);
+        auto first = connect();
+        occupyEngine(first, device, entered);
+        const auto refused = transcribe(device, tone());
+        EXPECT_EQ(refused.status, status);
+        EXPECT_EQ(refused.error(), error);
+        EXPECT_GT(std::stoi(refused.retryAfter), 0);
+        if (isTheDevices) {
+            EXPECT_EQ(transcribe(registered(), tone()).status, 200); // with which the first one goes on
+        } else {
+            entered.arrive_and_wait();
+        }
+        EXPECT_EQ(first.receive().status, 200);
+        engine->together = nullptr;
+        EXPECT_EQ(transcribe(device, tone()).status, 200);
+        first.close();
+        server->stop();
+    }
+}
+
+TEST_F(ApiTest, TakesNothingFromAClientThatHasGone)
+{
+    for (const auto half : {false, true}) {
+        start({.freeTokens = 10});
+        const auto device = registered();
+        std::latch entered(2);
+        auto client = connect();
+        occupyEngine(client, device, entered);
+        if (half) {
+            client.closeHalf();
+        } else {
+            client.close();
+        }
+        entered.arrive_and_wait();
+        if (half) {
+            EXPECT_EQ(client.receive().error(), "client_closed");
+        }
+        client.close();
+        server->stop(); // returns when the request has been dealt with
+        Store kept(database.location(), {}, clock);
+        const auto left = kept.devices.list({}, 9).last();
+        EXPECT_EQ(left.balance, 10);
+        EXPECT_EQ(left.held, 0);
+    }
 }
 
 TEST_F(ApiTest, RefusesARecordingThatTheBalanceDoesNotCoverBeforeTheEngineRuns)
@@ -238,82 +287,6 @@ TEST_F(ApiTest, TakesNothingForWhatBringsNoText)
     EXPECT_EQ(failed.error(), "engine_unavailable");
     EXPECT_EQ(failed.retryAfter, "7");
     EXPECT_EQ(balance(device), 10);
-}
-
-TEST_P(ApiDatabaseTest, NeverOverdrawsWithTwoRequestsAtOnce)
-{
-    start({.freeTokens = 3}); // one recording costs 2
-    const auto device = registered();
-    std::latch entered(2);
-    auto first = connect();
-    occupyEngine(first, device, entered);
-    EXPECT_EQ(transcribe(device, tone()).status, 402); // while the other one runs
-    entered.arrive_and_wait();
-    EXPECT_EQ(first.receive().balance(), 1);
-    EXPECT_EQ(balance(device), 1);
-}
-
-TEST_P(ApiDatabaseTest, TakesNothingFromAClientThatWentAway)
-{
-    start({.freeTokens = 10});
-    const auto device = registered();
-    std::latch entered(2);
-    auto client = connect();
-    occupyEngine(client, device, entered);
-    client.close();
-    entered.arrive_and_wait();
-    server->stop(); // returns when the request has been dealt with
-    Store kept(database.location(), {}, clock);
-    const auto left = kept.devices.list({}, 1).first();
-    EXPECT_EQ(left.balance, 10);
-    EXPECT_EQ(left.held, 0);
-}
-
-TEST_F(ApiTest, GivesNoTranscriptToAClientThatHasClosedItsHalf)
-{
-    start({.freeTokens = 10});
-    const auto device = registered();
-    auto client = connect();
-    std::latch entered(2);
-    occupyEngine(client, device, entered);
-    client.closeHalf();
-    entered.arrive_and_wait();
-    EXPECT_EQ(client.receive().error(), "client_closed");
-    EXPECT_EQ(balance(device), 10);
-}
-
-TEST_F(ApiTest, AnswersThatItIsBusyWhenTheEngineHasEnough)
-{
-    start({.freeTokens = 100, .places = 1});
-    const auto device = registered();
-    std::latch entered(2);
-    auto first = connect();
-    occupyEngine(first, device, entered);
-    const auto refused = transcribe(device, tone());
-    EXPECT_EQ(refused.status, 503);
-    EXPECT_EQ(refused.error(), "engine_busy");
-    EXPECT_GT(std::stoi(refused.retryAfter), 0);
-    entered.arrive_and_wait();
-    EXPECT_EQ(first.receive().balance(), 98);
-    engine->together = nullptr;
-    EXPECT_EQ(transcribe(device, tone()).balance(), 96);
-}
-
-TEST_F(ApiTest, LetsADeviceDoOnlySoMuchAtATime)
-{
-    start({.api = {.transcription = {.atOncePerDevice = 1}}});
-    const auto device = registered();
-    std::latch entered(2);
-    auto first = connect();
-    occupyEngine(first, device, entered);
-    const auto refused = transcribe(device, tone());
-    EXPECT_EQ(refused.status, 429);
-    EXPECT_EQ(refused.error(), "too_many_requests");
-    EXPECT_GT(std::stoi(refused.retryAfter), 0);
-    EXPECT_EQ(transcribe(registered(), tone()).status, 200); // another's, with which the first one goes on
-    EXPECT_EQ(first.receive().status, 200);
-    engine->together = nullptr;
-    EXPECT_EQ(first.sendRaw(upload(device, tone())).status, 200);
 }
 
 TEST_F(ApiTest, CountsTheTimeThatADevicesRecordingsAreDecodedForWhateverComesOfIt)
@@ -413,24 +386,6 @@ TEST_F(ApiTest, NamesWhatIsWrongWithARequest)
         EXPECT_EQ(answer.error(), error) << path;
         EXPECT_FALSE(answer.json()[QLatin1String("message")].toString().isEmpty());
     }
-}
-
-TEST_F(ApiTest, RefusesALargeBodyBeforeItIsSent)
-{
-    start();
-    auto announced = connect();
-    EXPECT_EQ(announced
-                  .sendRaw("POST /v1/transcribe HTTP/1.1\r\nHost: test\r\nExpect: 100-continue\r\n"
-                           "Content-Length: 99999999999\r\n\r\n")
-                  .status,
-              413);
-    auto chunked = connect();
-    EXPECT_EQ(chunked
-                  .sendRaw("POST /v1/devices HTTP/1.1\r\nHost: test\r\nTransfer-Encoding: chunked\r\n\r\n"
-                           "4001\r\n" +
-                           std::string(0x4001, 'x'))
-                  .status,
-              413);
 }
 
 TEST_F(ApiTest, KeepsAConnectionUntilARequestIsMalformed)

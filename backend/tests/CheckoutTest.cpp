@@ -90,6 +90,8 @@ protected:
                                   {u"client_reference_id"_s, purchase},
                                   {u"payment_status"_s, status},
                                   {u"amount_total"_s, amount},
+                                  {u"amount_refunded"_s, amount},
+                                  {u"payment_intent"_s, u"pi_1"_s},
                                   {u"currency"_s, u"eur"_s}};
         const QJsonObject event{{u"id"_s, id}, {u"type"_s, type}, {u"data"_s, QJsonObject{{u"object"_s, session}}}};
         return QJsonDocument(event).toJson().toStdString();
@@ -172,6 +174,8 @@ TEST_P(CheckoutTest, SellsWithStripeAndCreditsWhatItSaysIsPaidOnce)
     EXPECT_EQ(receive(paid), 200);
     EXPECT_EQ(receive(event(u"evt_4"_s, u"checkout.session.async_payment_succeeded"_s, purchase, u"paid"_s)), 200);
     EXPECT_EQ(balance(), 36'000);
+    EXPECT_EQ(receive(event(u"evt_6"_s, u"charge.refunded"_s, {}, {}, 1)), 200);
+    EXPECT_EQ(balance(), 35'975);
 }
 
 TEST_P(CheckoutTest, KeepsTheLinkWhenStripeCantBeAsked)

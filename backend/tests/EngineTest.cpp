@@ -1,16 +1,27 @@
 // SPDX-License-Identifier: MIT
+#include "engine/CommandEngine.h"
 #include "engine/FairQueue.h"
 #include "engine/OpenAiEngine.h"
 #include "engine/PocketSphinxEngine.h"
+#include "engine/WyomingEngine.h"
 
+#include "audio/AudioDecoder.h"
 #include "support/Audio.h"
+#include "support/ChildProcess.h"
 #include "support/RunningServer.h"
 
 #include <boost/asio/detached.hpp>
 #include <boost/asio/post.hpp>
+#include <fcntl.h>
 #include <gmock/gmock.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
 
 using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -53,7 +64,7 @@ protected:
     QString transcribe() const
     {
         auto asked = options;
-        asked.baseUrl = server.url() + "/v1";
+        asked.baseUrls = {server.url() + "/v1"};
         OpenAiEngine engine(asked);
         return engine.transcribe({"the file", 60s});
     }
@@ -136,14 +147,85 @@ TEST_F(OpenAiEngineTest, FailsWithoutTellingTheKey)
     EXPECT_THAT(failure(), HasSubstr("can't be used"));
 }
 
+TEST_F(OpenAiEngineTest, AsksTheNextServerWhenOneFailsAndLeavesThatOneAlone)
+{
+    Upstream second;
+    second.replies = {reply(200, R"({"text":"second"})")};
+    RunningServer secondServer;
+    secondServer.start(second);
+    options.baseUrls = {server.url(), secondServer.url()};
+    OpenAiEngine engine(options);
+    const auto ask = [&] { return engine.transcribe({.file = "the file", .longest = 60s}); };
+    upstream.replies = {reply(500)};
+    EXPECT_EQ(ask(), u"second"_s);
+    EXPECT_EQ(ask(), u"second"_s);
+    EXPECT_EQ(upstream.count, 1);
+    upstream.replies = {reply(200, R"({"text":"first"})")};
+    second.replies = {reply(401)};
+    EXPECT_EQ(ask(), u"first"_s); // which is still better than none
+}
+
 TEST_F(OpenAiEngineTest, GivesUpOnAServerThatDoesNotAnswer)
 {
     net::io_context io;
     net::ip::tcp::acceptor silent(io, {net::ip::address_v4::loopback(), 0}); // connections wait in its queue for ever
     options.timeout = 50ms;
-    options.baseUrl = "http://127.0.0.1:" + std::to_string(silent.local_endpoint().port());
+    options.baseUrls = {"http://127.0.0.1:" + std::to_string(silent.local_endpoint().port())};
     OpenAiEngine engine(options);
     EXPECT_THROW(engine.transcribe({"the file", 60s}), EngineError);
+}
+
+TEST(CommandEngineTest, RunsAProgramWithTheRecordingAndItsLimits)
+{
+    const auto ask = [](const QStringList &command) {
+        CommandEngine engine({.command = command, .language = "en", .memory = 1 << 30, .processorTime = 7});
+        return engine.transcribe({.file = tone(), .longest = 60s, .prompt = "{file} $(x)"}).trimmed();
+    };
+    const auto script = [](const char *text) { return QStringList{u"sh"_s, u"-c"_s, QString::fromUtf8(text)}; };
+    EXPECT_EQ(ask(script("head -c 4")), u"RIFF"_s);
+    EXPECT_EQ(ask(script("head -c 4 \"$0\"") + QStringList{u"{file}"_s}), u"RIFF"_s);
+    EXPECT_EQ(ask({u"ffprobe"_s, u"-v"_s, u"error"_s, u"-show_entries"_s, u"stream=codec_name,sample_rate,channels"_s,
+                   u"-of"_s, u"csv=p=0"_s, u"{file}"_s}),
+              u"pcm_s16le,16000,1"_s);
+    EXPECT_EQ(ask({u"echo"_s, u"-n"_s, u"{language}"_s, u"{prompt}"_s}), u"en {file} $(x)"_s);
+    EXPECT_EQ(ask(script("echo '{\"text\":\"Grüße\"}'")), u"Grüße"_s);
+    EXPECT_EQ(ask(script("ulimit -v; ulimit -t; echo $USER")), u"1048576\n7"_s);
+    for (const auto &command :
+         {script("exit 3"), script("kill $$"), script("echo {}"), QStringList{u"/nonexistent"_s}}) {
+        EXPECT_THROW(ask(command), EngineError) << command.join(u' ').toStdString();
+    }
+}
+
+TEST(CommandEngineTest, KillsAllThatItHasStartedWhenNobodyWaitsAnyMore)
+{
+    const QTemporaryDir folder;
+    const auto path = folder.filePath(u"fifo"_s);
+    ASSERT_EQ(::mkfifo(path.toLocal8Bit().constData(), 0600), 0);
+    const auto fifo = ::open(path.toLocal8Bit().constData(), O_RDONLY | O_NONBLOCK);
+    pollfd started{fifo, POLLIN, 0};
+    CommandEngine engine({.command = {u"sh"_s, u"-c"_s, u"exec 3>\"$0\"; echo >&3; sleep 1000 & wait"_s, path}});
+    const auto wanted = [&] { return ::poll(&started, 1, 0) == 0; };
+    EXPECT_THROW(engine.transcribe({.file = tone(), .longest = 60s, .wanted = wanted}), EngineError);
+    ::fcntl(fifo, F_SETFL, 0);
+    std::array<char, 9> bytes{};
+    EXPECT_EQ(::read(fifo, bytes.data(), bytes.size()), 1);
+    EXPECT_EQ(::read(fifo, bytes.data(), bytes.size()), 0); // which it would not end with while one of them lives
+    ::close(fifo);
+}
+
+TEST(WyomingEngineTest, SendsTheSamplesAndReadsTheTranscript)
+{
+    ChildProcess server(u"python3"_s, {QStringLiteral(QUILLO_BACKEND_TESTS "/wyoming.py")});
+    const auto ask = [port = server.readLine().toStdString()](const std::string &language) {
+        return WyomingEngine({.host = "127.0.0.1", .port = port, .timeout = 20s})
+            .transcribe({.file = tone(), .longest = 60s, .language = language});
+    };
+    const auto bytes = QString::number(2 * decodeAudio(tone(), {60s}).size());
+    EXPECT_EQ(ask("de"), u"de "_s + bytes);
+    EXPECT_EQ(ask(""), u"any "_s + bytes);
+    EXPECT_THROW(ask("xx"), EngineError);
+    server.terminate();
+    EXPECT_THROW(ask("de"), EngineError);
 }
 
 TEST(FairQueueTest, ServesOwnersInTurnUntilItIsStopped)
@@ -168,10 +250,7 @@ TEST(FairQueueTest, ServesOwnersInTurnUntilItIsStopped)
 
 TEST(PocketSphinxEngineTest, UnderstandsASpokenCommandAfterAac)
 {
-    const auto file =
-        recordingOf({QStringLiteral("-f"), QStringLiteral("s16le"), QStringLiteral("-ar"), QStringLiteral("16000"),
-                     QStringLiteral("-ac"), QStringLiteral("1"), QStringLiteral("-i"),
-                     QStringLiteral("/usr/share/pocketsphinx/test/data/goforward.raw")});
+    const auto file = spokenCommand();
     PocketSphinxEngine engine(PocketSphinxEngine::defaultModelFolder());
     testing::internal::CaptureStderr();
     engine.prepare();

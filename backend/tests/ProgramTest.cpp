@@ -6,8 +6,10 @@
 #include <QTemporaryDir>
 #include <boost/asio/local/datagram_protocol.hpp>
 #include <gmock/gmock.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <future>
 
 using namespace Qt::StringLiterals;
@@ -75,6 +77,11 @@ TEST_F(ProgramTest, NamesTheLineAndTheKeyOfABadValue)
          {},
          ":1: openai-base-url must begin with https"},
         {{}, {}, {u"QUILLO_BACKEND_PORT=65536"_s}, "QUILLO_BACKEND_PORT must be"},
+        {{}, {}, {u"QUILLO_BACKEND_PROT=1"_s}, "QUILLO_BACKEND_PROT is no option"},
+        {{}, {u"--config"_s, folder.path()}, {}, "can't be read"},
+        {{}, {u"--database=mysql://user@host/name"_s}, {}, "--database must be a file or"},
+        {{}, {u"--engine=command"_s}, {}, "--command must name the program"},
+        {{}, {u"--engine=wyoming"_s, u"--wyoming-server=host"_s}, {}, "--wyoming-server must be a host and a port"},
         {{}, {u"--port=x"_s}, {}, "--port must be"},
         {{}, {u"--address=localhost"_s}, {}, "--address must be"},
         {{}, {u"--trusted-proxies=::1,10.0.0.0/33"_s}, {}, "--trusted-proxies must be IP addresses"},
@@ -195,6 +202,16 @@ TEST_F(ProgramTest, ServesWhileItsOperatorLooksAfterTheDevices)
     EXPECT_EQ(balance().body, R"({"balance":40,"unmetered":true})");
     EXPECT_THAT(operate({u"devices"_s, u"meter"_s, id}).output, testing::Not(testing::HasSubstr("unmetered")));
     EXPECT_THAT(operate({u"ledger"_s, id}).output, testing::ContainsRegex("5  grant(.|\n)*37  operator"));
+    const auto copy = folder.filePath(u"copy"_s);
+    EXPECT_EQ(operate({u"backup"_s, copy}).code, 0);
+    EXPECT_EQ(QFile::permissions(copy) & (QFile::ReadGroup | QFile::ReadOther), 0);
+    const QStringList elsewhere{u"--database"_s, folder.filePath(u"restored.db"_s)};
+    EXPECT_EQ(run(QStringList{u"restore"_s, copy} + elsewhere).code, 0);
+    EXPECT_EQ(run(QStringList{u"restore"_s, copy} + elsewhere).code, 1); // over what is there
+    EXPECT_EQ(run(QStringList{u"devices"_s, u"list"_s} + elsewhere).output, operate({u"devices"_s, u"list"_s}).output);
+    EXPECT_THAT(operate({u"check"_s}).output, testing::HasSubstr("2 devices, and every balance is explained"));
+    QFile::resize(copy, QFileInfo(copy).size() / 2);
+    EXPECT_THAT(run({u"check"_s, u"--database"_s, copy}).errors, testing::HasSubstr("malformed"));
     EXPECT_EQ(operate({u"devices"_s, u"revoke"_s, id}).code, 0);
     EXPECT_EQ(balance().status, 401);
     EXPECT_THAT(operate({u"devices"_s, u"show"_s, id}).output, testing::HasSubstr("revoked"));
@@ -204,6 +221,52 @@ TEST_F(ProgramTest, ServesWhileItsOperatorLooksAfterTheDevices)
     EXPECT_EQ(run({u"devices"_s, u"list"_s, u"--database"_s, mistyped}).code, 1);
     EXPECT_FALSE(QFile::exists(mistyped));
     EXPECT_EQ(server.stop(), 0);
+}
+
+TEST_F(ProgramTest, ReadsItsSettingsAnewAndOutlivesItsLog)
+{
+    const auto config = write(u"backend.toml"_s, "registrations-per-hour = 0\n");
+    ServerProgram server({u"--database"_s, database, u"--config"_s, config});
+    const auto reload = [&](const char *settings, const QByteArray &told) {
+        write(u"backend.toml"_s, settings);
+        ::kill(static_cast<pid_t>(server.pid()), SIGHUP);
+        server.process().setReadChannel(QProcess::StandardError);
+        EXPECT_THAT(server.readLine().toStdString(), testing::HasSubstr(told.toStdString()));
+    };
+    const auto registration = [&] {
+        return server.connect().send("POST", "/v1/devices", {}, R"({"platform":"linux"})").status;
+    };
+    reload("registrations-per-hour = 1\n", "read anew");
+    EXPECT_EQ(registration(), 200);
+    EXPECT_EQ(registration(), 429);
+    reload("registrations-per-hour = -1\n", "stay as they were");
+    EXPECT_EQ(registration(), 429);
+    server.process().closeReadChannel(QProcess::StandardError);
+    ::kill(static_cast<pid_t>(server.pid()), SIGHUP);
+    EXPECT_EQ(registration(), 429);
+    EXPECT_EQ(server.stop(), 0);
+}
+
+TEST_F(ProgramTest, RefusesRecordingsAndChargesNothingWhileTheDiskIsFull)
+{
+    ServerProgram server({u"--database"_s, database, u"--engine=command"_s, u"--command=echo,hello"_s});
+    const auto device = registeredAt(server.port());
+    const auto transcribe = [&] {
+        return server.connect().send("POST", "/v1/transcribe", device + std::string(multipartHeader),
+                                     multipart(tone()));
+    };
+    const auto letWrite = [&](rlim_t bytes) {
+        const rlimit limit{bytes, RLIM_INFINITY};
+        ::prlimit(static_cast<pid_t>(server.pid()), RLIMIT_FSIZE, &limit, nullptr);
+    };
+    EXPECT_EQ(transcribe().balance(), 3598);
+    letWrite(1);
+    EXPECT_EQ(transcribe().error(), "unavailable");
+    EXPECT_EQ(server.connect().send("GET", "/readyz").status, 503);
+    EXPECT_EQ(server.connect().send("GET", "/healthz").status, 200);
+    letWrite(RLIM_INFINITY);
+    EXPECT_EQ(server.connect().send("GET", "/readyz").status, 200);
+    EXPECT_EQ(transcribe().balance(), 3596);
 }
 
 TEST_F(ProgramTest, RefusesATranscriptionThatOutlastsItsStop)

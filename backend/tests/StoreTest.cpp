@@ -18,8 +18,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class StoreTest : public testing::TestWithParam<DatabaseKind> {
+class StoreFixture {
 protected:
+    explicit StoreFixture(DatabaseKind kind) : database(kind) {}
+
     std::unique_ptr<Store> open(GrantPolicy policy = {}) const
     {
         return std::make_unique<Store>(database.location(), policy, [this] { return now; });
@@ -33,7 +35,7 @@ protected:
     /// Past what brings the tables up to date.
     void runRaw(const QStringList &statements) const
     {
-        const auto isPostgreSql = GetParam() == DatabaseKind::PostgreSql;
+        const auto isPostgreSql = Database::isPostgreSql(database.location());
         const QUrl url(database.location());
         {
             auto connection = QSqlDatabase::addDatabase(isPostgreSql ? u"QPSQL"_s : u"QSQLITE"_s, u"raw"_s);
@@ -52,8 +54,19 @@ protected:
         QSqlDatabase::removeDatabase(u"raw"_s);
     }
 
-    TestDatabase database{GetParam()};
+    TestDatabase database;
     qint64 now = 1'700'000'000;
+};
+
+class StoreTest : public StoreFixture, public testing::TestWithParam<DatabaseKind> {
+protected:
+    StoreTest() : StoreFixture(GetParam()) {}
+};
+
+/// What only a server can do, or fail to do.
+class PostgreSqlStoreTest : public StoreFixture, public testing::Test {
+protected:
+    PostgreSqlStoreTest() : StoreFixture(DatabaseKind::PostgreSql) {}
 };
 
 INSTANTIATE_ON_BOTH_DATABASES(StoreTest);
@@ -213,11 +226,8 @@ TEST_P(StoreTest, ServesOneDeviceAndOnePoolThroughManyConnectionsAtOnce)
     EXPECT_THAT(store->ledger.unexplained(), testing::IsEmpty());
 }
 
-TEST_P(StoreTest, ConnectsAnewAfterTheConnectionWasLostAtAnyStatement)
+TEST_F(PostgreSqlStoreTest, ConnectsAnewAfterTheConnectionWasLostAtAnyStatement)
 {
-    if (GetParam() == DatabaseKind::Sqlite) {
-        GTEST_SKIP() << "a file has no connection to lose";
-    }
     const auto device = open()->devices.add(u"linux"_s);
     for (const auto *const statement :
          {"BEGIN ISOLATION", "SET LOCAL synchronous", "UPDATE devices SET held", "COMMIT"}) {
@@ -232,11 +242,8 @@ TEST_P(StoreTest, ConnectsAnewAfterTheConnectionWasLostAtAnyStatement)
     }
 }
 
-TEST_P(StoreTest, WaitsForADatabaseThatCantBeReached)
+TEST_F(PostgreSqlStoreTest, WaitsForADatabaseThatCantBeReached)
 {
-    if (GetParam() == DatabaseKind::Sqlite) {
-        GTEST_SKIP() << "it is in this process";
-    }
     DatabaseLine line(database.location());
     line.cutAt("");
     net::thread_pool waiting(1);
@@ -254,11 +261,8 @@ TEST_P(StoreTest, WaitsForADatabaseThatCantBeReached)
     EXPECT_NE(add(), QString());
 }
 
-TEST_P(StoreTest, SharesTokenBucketsAmongProcesses)
+TEST_F(PostgreSqlStoreTest, SharesTokenBucketsAmongProcesses)
 {
-    if (GetParam() == DatabaseKind::Sqlite) {
-        GTEST_SKIP() << "a file is for one process, which has them in memory";
-    }
     using namespace std::chrono_literals;
     const auto first = open();
     const auto second = open();
@@ -271,11 +275,8 @@ TEST_P(StoreTest, SharesTokenBucketsAmongProcesses)
     EXPECT_NEAR(static_cast<double>(second->buckets.take(u"a"_s, 1h, 10h)->count()), 10 * 3600e3, 60e3);
 }
 
-TEST_P(StoreTest, LimitsAStatementUnlessItsLocationDoes)
+TEST_F(PostgreSqlStoreTest, LimitsAStatementUnlessItsLocationDoes)
 {
-    if (GetParam() == DatabaseKind::Sqlite) {
-        GTEST_SKIP() << "it is in this process";
-    }
     const auto limit = [](const QString &location) {
         return Database(location).first(u"SELECT current_setting('statement_timeout')"_s)->at(0).toString();
     };
@@ -353,5 +354,23 @@ TEST_P(StoreTest, SellsOncePerLinkAndCreditsOncePerPurchase)
     EXPECT_FALSE(checkout.begin(late, {100, 199}, u"eur"_s));
     EXPECT_EQ(store->ledger.balance(id), 100);
     EXPECT_EQ(store->ledger.entries(id, 0, 9).last().reference, purchase->id);
+    EXPECT_THAT(store->ledger.unexplained(), testing::IsEmpty());
+}
+
+TEST_P(StoreTest, TakesBackWhatWasPaidBackAsFarAsItIsThere)
+{
+    const auto store = open({.freeTokens = 0});
+    auto &checkout = store->checkout;
+    const auto id = store->devices.add(u"linux"_s).deviceId;
+    const auto purchase = checkout.begin(checkout.addLink(id), {1000, 300}, u"eur"_s);
+    ASSERT_TRUE(checkout.complete(purchase->id, Payment{u"1"_s, 300, u"eur"_s, u"pi"_s}));
+    EXPECT_EQ(checkout.takeBack({u"2"_s, u"other"_s, 300}), std::nullopt);
+    EXPECT_EQ(checkout.takeBack({u"2"_s, u"pi"_s, 100}), 334);
+    EXPECT_EQ(checkout.takeBack({u"2"_s, u"pi"_s, 300}), std::nullopt);
+    ASSERT_TRUE(store->ledger.hold(id, 600));
+    EXPECT_EQ(checkout.takeBack({u"3"_s, u"pi"_s, 300}), 66);
+    EXPECT_EQ(checkout.takeBack({u"4"_s, u"pi"_s, 300}), std::nullopt);
+    EXPECT_EQ(store->ledger.balance(id), 600);
+    EXPECT_EQ(store->ledger.entries(id, 0, 9).last().reference, purchase->id + u" (600 missing)"_s);
     EXPECT_THAT(store->ledger.unexplained(), testing::IsEmpty());
 }

@@ -4,8 +4,6 @@
 own. Usage: browser.py QUILLO_BACKEND NGINX_CONF"""
 
 import contextlib
-import hashlib
-import hmac
 import http.client
 import http.server
 import json
@@ -151,9 +149,6 @@ class Site:
         device = json.loads(self.send("POST", "/v1/devices", {}, '{"platform":"linux"}')[1])
         return {"Authorization": f"Bearer {device['deviceId']}.{device['secret']}"}
 
-    def balance(self, device):
-        return json.loads(self.send("GET", "/v1/balance", device)[1])["balance"]
-
     def link(self, device):
         return json.loads(self.send("POST", "/v1/checkout/link", device)[1])["url"]
 
@@ -199,28 +194,7 @@ class BrowserTest(unittest.TestCase):
         self.assertNotIn(path, "".join(logs))
         self.assertIn("/v1/balance", logs[1])  # so this is where it would be
 
-    def test_a_development_server_credits_at_once_on_any_screen(self):
-        site = Site(self.stack, self.folder)
-        browser, device = Browser(self.stack, self.folder), site.register()
-        browser.open(site.link(device))
-        paper = {}
-        for width in (360, 1280):
-            for scheme in ("light", "dark"):
-                browser.show(width, scheme)
-                overflow = browser.script("return document.documentElement.scrollWidth - window.innerWidth")
-                self.assertLessEqual(overflow, 0, (width, scheme))
-                paper[scheme] = browser.script("return getComputedStyle(document.body).backgroundColor")
-        self.assertNotEqual(paper["light"], paper["dark"])
-        browser.show_as_it_is()
-        self.assertIn("development server", browser.text("development server"))
-        browser.click("button:nth-of-type(2)")
-        self.assertIn("36,000 tokens were added", browser.text("36,000 tokens were added"))
-        self.assertEqual(site.balance(device), 36_000)
-        browser.call("/back")
-        browser.call("/refresh")
-        self.assertIn("can't be used", browser.text("can't be used"))
-
-    def test_stripe_sells(self):
+    def test_a_page_on_any_screen_leads_to_the_payment_and_back(self):
         stripe = http.server.ThreadingHTTPServer(("127.0.0.1", 0), StripePage)
         threading.Thread(target=stripe.serve_forever, daemon=True).start()
         for name, content in (("sk", "sk_test"), ("whsec", "whsec_test")):
@@ -231,20 +205,19 @@ class BrowserTest(unittest.TestCase):
         browser, device = Browser(self.stack, self.folder), site.register()
         browser.open(site.link(device))
         self.assertIn("1.99 EUR", browser.text("1.99 EUR"))
+        paper = {}
+        for width in (360, 1280):
+            for scheme in ("light", "dark"):
+                browser.show(width, scheme)
+                overflow = browser.script("return document.documentElement.scrollWidth - window.innerWidth")
+                self.assertLessEqual(overflow, 0, (width, scheme))
+                paper[scheme] = browser.script("return getComputedStyle(document.body).backgroundColor")
+        self.assertNotEqual(paper["light"], paper["dark"])
+        browser.show_as_it_is()
         browser.click("button")
         self.assertEqual(browser.text("Pay"), "Pay")
         browser.click("a")
         self.assertIn("as soon as the payment has arrived", browser.text("as soon as the payment has arrived"))
-        self.assertEqual(site.balance(device), 0)
-        session = {"client_reference_id": StripePage.order["client_reference_id"], "payment_status": "paid",
-                   "amount_total": 199, "currency": "eur"}
-        event = json.dumps({"id": "evt_1", "type": "checkout.session.completed", "data": {"object": session}})
-        now = int(time.time())
-        code = hmac.new(b"whsec_test", f"{now}.{event}".encode(), hashlib.sha256).hexdigest()
-        for _ in range(2):
-            self.assertEqual(site.send("POST", "/webhooks/stripe", {"Stripe-Signature": f"t={now},v1={code}"},
-                                       event)[0], 200)
-        self.assertEqual(site.balance(device), 3600)
 
 
 unittest.main(argv=sys.argv[:1], verbosity=2, warnings="ignore")

@@ -43,3 +43,11 @@ inline const std::string &silence()
     static const auto file = recordingOf(generated("anullsrc=duration=1.5"));
     return file;
 }
+
+/// "Go forward ten meters."
+inline std::string spokenCommand()
+{
+    return recordingOf({QStringLiteral("-f"), QStringLiteral("s16le"), QStringLiteral("-ar"), QStringLiteral("16000"),
+                        QStringLiteral("-ac"), QStringLiteral("1"), QStringLiteral("-i"),
+                        QStringLiteral("/usr/share/pocketsphinx/test/data/goforward.raw")});
+}
