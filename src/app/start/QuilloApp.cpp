@@ -150,6 +150,7 @@ int QuilloApp::run(int argc, char *argv[])
                               return RecoverHistoryCommand::run(recover.path);
                           },
                           [&](const CommandLine::Mistake &mistake) {
+                              const QCoreApplication application(own.count, own.values);
                               return Output::fail(Words::tr("%1 See: quillo --help").arg(mistake.text),
                                                   ExitStatus::usage);
                           },
