@@ -699,6 +699,38 @@ Dictation can&apos;t work here yet.
 Hier kann noch nicht diktiert werden.
 </translation>
     </message>
+    <message>
+        <source>%1 begins neither with https:// nor http://</source>
+        <translation>%1 beginnt weder mit https:// noch mit http://</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read</source>
+        <translation>%1 ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>it is kept; to take over what can be read: quillo history --recover %1</source>
+        <translation>sie bleibt; Lesbares übernimmt: quillo history --recover %1</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: nothing new is kept</source>
+        <translation>%1 ist nicht beschreibbar: Neues wird nicht gesichert</translation>
+    </message>
+    <message>
+        <source>make it yours: chown and chmod u+rwx</source>
+        <translation>sich zu eigen machen: chown und chmod u+rwx</translation>
+    </message>
+    <message>
+        <source>%1: the disk is full, nothing new is kept</source>
+        <translation>%1: Der Datenträger ist voll, Neues wird nicht gesichert</translation>
+    </message>
+    <message>
+        <source>make room</source>
+        <translation>Platz schaffen</translation>
+    </message>
+    <message>
+        <source>%1; put aside because it couldn&apos;t be read: %2</source>
+        <translation>%1; beiseitegelegt, weil nicht lesbar: %2</translation>
+    </message>
 </context>
 <context>
     <name>GroupCarousel</name>
@@ -773,6 +805,21 @@ Hier kann noch nicht diktiert werden.
     <message>
         <source>Delete group</source>
         <translation>Gruppe löschen</translation>
+    </message>
+</context>
+<context>
+    <name>GroupStore</name>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>Kept in memory: the groups can&apos;t be saved</source>
+        <translation>Nur im Speicher: Die Gruppen lassen sich nicht sichern</translation>
+    </message>
+    <message>
+        <source>The groups can&apos;t be read: a new one begins, the old file is kept</source>
+        <translation>Die Gruppen sind nicht lesbar: Neue beginnen, die alte Datei bleibt</translation>
     </message>
 </context>
 <context>
@@ -1041,6 +1088,10 @@ Hier kann noch nicht diktiert werden.
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>Nehmen Sie Strg, Alt oder Super dazu – oder eine F-Taste –, damit es nicht beim Tippen stört.</translation>
     </message>
+    <message>
+        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
+        <translation>Das kann auf dieser Tastatur kein Kürzel sein. Versuchen Sie ein anderes.</translation>
+    </message>
 </context>
 <context>
     <name>Start</name>
@@ -1133,6 +1184,21 @@ Hier kann noch nicht diktiert werden.
     <message>
         <source>Transcribing…</source>
         <translation>Wird umgewandelt …</translation>
+    </message>
+</context>
+<context>
+    <name>TranscriptionStore</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Kept in memory: the history can&apos;t be saved</source>
+        <translation>Nur im Speicher: Der Verlauf lässt sich nicht sichern</translation>
+    </message>
+    <message>
+        <source>The history can&apos;t be read: a new one begins, the old file is kept</source>
+        <translation>Der Verlauf ist nicht lesbar: Ein neuer beginnt, die alte Datei bleibt</translation>
     </message>
 </context>
 </TS>

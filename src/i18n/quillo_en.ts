@@ -699,6 +699,38 @@ Dictation can&apos;t work here yet.
 Dictation can&apos;t work here yet.
 </translation>
     </message>
+    <message>
+        <source>%1 begins neither with https:// nor http://</source>
+        <translation>%1 begins neither with https:// nor http://</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read</source>
+        <translation>%1 can&apos;t be read</translation>
+    </message>
+    <message>
+        <source>it is kept; to take over what can be read: quillo history --recover %1</source>
+        <translation>it is kept; to take over what can be read: quillo history --recover %1</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: nothing new is kept</source>
+        <translation>%1 can&apos;t be written: nothing new is kept</translation>
+    </message>
+    <message>
+        <source>make it yours: chown and chmod u+rwx</source>
+        <translation>make it yours: chown and chmod u+rwx</translation>
+    </message>
+    <message>
+        <source>%1: the disk is full, nothing new is kept</source>
+        <translation>%1: the disk is full, nothing new is kept</translation>
+    </message>
+    <message>
+        <source>make room</source>
+        <translation>make room</translation>
+    </message>
+    <message>
+        <source>%1; put aside because it couldn&apos;t be read: %2</source>
+        <translation>%1; put aside because it couldn&apos;t be read: %2</translation>
+    </message>
 </context>
 <context>
     <name>GroupCarousel</name>
@@ -773,6 +805,21 @@ Dictation can&apos;t work here yet.
     <message>
         <source>Delete group</source>
         <translation>Delete group</translation>
+    </message>
+</context>
+<context>
+    <name>GroupStore</name>
+    <message>
+        <source>Groups</source>
+        <translation>Groups</translation>
+    </message>
+    <message>
+        <source>Kept in memory: the groups can&apos;t be saved</source>
+        <translation>Kept in memory: the groups can&apos;t be saved</translation>
+    </message>
+    <message>
+        <source>The groups can&apos;t be read: a new one begins, the old file is kept</source>
+        <translation>The groups can&apos;t be read: new ones begin, the old file is kept</translation>
     </message>
 </context>
 <context>
@@ -1041,6 +1088,10 @@ Dictation can&apos;t work here yet.
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>Add Ctrl, Alt or Super — or use an F-key — so it doesn&apos;t block typing.</translation>
     </message>
+    <message>
+        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
+        <translation>That can&apos;t be a shortcut on this keyboard. Try another one.</translation>
+    </message>
 </context>
 <context>
     <name>Start</name>
@@ -1133,6 +1184,21 @@ Dictation can&apos;t work here yet.
     <message>
         <source>Transcribing…</source>
         <translation>Transcribing…</translation>
+    </message>
+</context>
+<context>
+    <name>TranscriptionStore</name>
+    <message>
+        <source>History</source>
+        <translation>History</translation>
+    </message>
+    <message>
+        <source>Kept in memory: the history can&apos;t be saved</source>
+        <translation>Kept in memory: the history can&apos;t be saved</translation>
+    </message>
+    <message>
+        <source>The history can&apos;t be read: a new one begins, the old file is kept</source>
+        <translation>The history can&apos;t be read: a new one begins, the old file is kept</translation>
     </message>
 </context>
 </TS>

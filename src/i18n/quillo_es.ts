@@ -699,6 +699,38 @@ Dictation can&apos;t work here yet.
 El dictado todavía no puede funcionar aquí.
 </translation>
     </message>
+    <message>
+        <source>%1 begins neither with https:// nor http://</source>
+        <translation>%1 no empieza por https:// ni por http://</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read</source>
+        <translation>no se puede leer %1</translation>
+    </message>
+    <message>
+        <source>it is kept; to take over what can be read: quillo history --recover %1</source>
+        <translation>se conserva; para recuperar lo legible: quillo history --recover %1</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: nothing new is kept</source>
+        <translation>no se puede escribir en %1: no se conserva nada nuevo</translation>
+    </message>
+    <message>
+        <source>make it yours: chown and chmod u+rwx</source>
+        <translation>hágalo suyo: chown y chmod u+rwx</translation>
+    </message>
+    <message>
+        <source>%1: the disk is full, nothing new is kept</source>
+        <translation>%1: el disco está lleno, no se conserva nada nuevo</translation>
+    </message>
+    <message>
+        <source>make room</source>
+        <translation>libere espacio</translation>
+    </message>
+    <message>
+        <source>%1; put aside because it couldn&apos;t be read: %2</source>
+        <translation>%1; apartado por ilegible: %2</translation>
+    </message>
 </context>
 <context>
     <name>GroupCarousel</name>
@@ -773,6 +805,21 @@ El dictado todavía no puede funcionar aquí.
     <message>
         <source>Delete group</source>
         <translation>Eliminar grupo</translation>
+    </message>
+</context>
+<context>
+    <name>GroupStore</name>
+    <message>
+        <source>Groups</source>
+        <translation>Grupos</translation>
+    </message>
+    <message>
+        <source>Kept in memory: the groups can&apos;t be saved</source>
+        <translation>Solo en memoria: no se pueden guardar los grupos</translation>
+    </message>
+    <message>
+        <source>The groups can&apos;t be read: a new one begins, the old file is kept</source>
+        <translation>No se pueden leer los grupos: empiezan otros nuevos y se conserva el archivo anterior</translation>
     </message>
 </context>
 <context>
@@ -1041,6 +1088,10 @@ El dictado todavía no puede funcionar aquí.
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>Añada Ctrl, Alt o Súper (o use una tecla F) para que no estorbe al escribir.</translation>
     </message>
+    <message>
+        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
+        <translation>Eso no puede ser un atajo en este teclado. Pruebe otro.</translation>
+    </message>
 </context>
 <context>
     <name>Start</name>
@@ -1133,6 +1184,21 @@ El dictado todavía no puede funcionar aquí.
     <message>
         <source>Transcribing…</source>
         <translation>Transcribiendo…</translation>
+    </message>
+</context>
+<context>
+    <name>TranscriptionStore</name>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>Kept in memory: the history can&apos;t be saved</source>
+        <translation>Solo en memoria: no se puede guardar el historial</translation>
+    </message>
+    <message>
+        <source>The history can&apos;t be read: a new one begins, the old file is kept</source>
+        <translation>No se puede leer el historial: empieza uno nuevo y se conserva el archivo anterior</translation>
     </message>
 </context>
 </TS>

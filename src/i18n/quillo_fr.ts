@@ -699,6 +699,38 @@ Dictation can&apos;t work here yet.
 La dictée ne peut pas encore fonctionner ici.
 </translation>
     </message>
+    <message>
+        <source>%1 begins neither with https:// nor http://</source>
+        <translation>%1 ne commence ni par https:// ni par http://</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read</source>
+        <translation>%1 est illisible</translation>
+    </message>
+    <message>
+        <source>it is kept; to take over what can be read: quillo history --recover %1</source>
+        <translation>il est gardé ; pour reprendre ce qui est lisible : quillo history --recover %1</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: nothing new is kept</source>
+        <translation>%1 ne peut être écrit : rien de nouveau n’est gardé</translation>
+    </message>
+    <message>
+        <source>make it yours: chown and chmod u+rwx</source>
+        <translation>se l’approprier : chown et chmod u+rwx</translation>
+    </message>
+    <message>
+        <source>%1: the disk is full, nothing new is kept</source>
+        <translation>%1 : le disque est plein, rien de nouveau n’est gardé</translation>
+    </message>
+    <message>
+        <source>make room</source>
+        <translation>faire de la place</translation>
+    </message>
+    <message>
+        <source>%1; put aside because it couldn&apos;t be read: %2</source>
+        <translation>%1 ; mis de côté car illisible : %2</translation>
+    </message>
 </context>
 <context>
     <name>GroupCarousel</name>
@@ -773,6 +805,21 @@ La dictée ne peut pas encore fonctionner ici.
     <message>
         <source>Delete group</source>
         <translation>Supprimer le groupe</translation>
+    </message>
+</context>
+<context>
+    <name>GroupStore</name>
+    <message>
+        <source>Groups</source>
+        <translation>Groupes</translation>
+    </message>
+    <message>
+        <source>Kept in memory: the groups can&apos;t be saved</source>
+        <translation>Gardé en mémoire : les groupes ne peuvent être enregistrés</translation>
+    </message>
+    <message>
+        <source>The groups can&apos;t be read: a new one begins, the old file is kept</source>
+        <translation>Les groupes sont illisibles : de nouveaux commencent, l’ancien fichier est gardé</translation>
     </message>
 </context>
 <context>
@@ -1041,6 +1088,10 @@ La dictée ne peut pas encore fonctionner ici.
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>Ajoutez Ctrl, Alt ou Super – ou une touche F – pour ne pas gêner la saisie.</translation>
     </message>
+    <message>
+        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
+        <translation>Ce ne peut être un raccourci sur ce clavier. Essayez-en un autre.</translation>
+    </message>
 </context>
 <context>
     <name>Start</name>
@@ -1133,6 +1184,21 @@ La dictée ne peut pas encore fonctionner ici.
     <message>
         <source>Transcribing…</source>
         <translation>Transcription…</translation>
+    </message>
+</context>
+<context>
+    <name>TranscriptionStore</name>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>Kept in memory: the history can&apos;t be saved</source>
+        <translation>Gardé en mémoire : l’historique ne peut être enregistré</translation>
+    </message>
+    <message>
+        <source>The history can&apos;t be read: a new one begins, the old file is kept</source>
+        <translation>L’historique est illisible : un nouveau commence, l’ancien fichier est gardé</translation>
     </message>
 </context>
 </TS>

@@ -696,6 +696,38 @@ Dictation can&apos;t work here yet.
 ここではまだ音声入力が使えません。
 </translation>
     </message>
+    <message>
+        <source>%1 begins neither with https:// nor http://</source>
+        <translation>%1はhttps://でもhttp://でも始まっていません</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read</source>
+        <translation>%1を読み取れません</translation>
+    </message>
+    <message>
+        <source>it is kept; to take over what can be read: quillo history --recover %1</source>
+        <translation>残してあります。読める内容を取り込むには: quillo history --recover %1</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: nothing new is kept</source>
+        <translation>%1に書き込めません: 新しい内容は保存されません</translation>
+    </message>
+    <message>
+        <source>make it yours: chown and chmod u+rwx</source>
+        <translation>所有者を自分にする: chownとchmod u+rwx</translation>
+    </message>
+    <message>
+        <source>%1: the disk is full, nothing new is kept</source>
+        <translation>%1: ディスクがいっぱいで、新しい内容は保存されません</translation>
+    </message>
+    <message>
+        <source>make room</source>
+        <translation>空きを作る</translation>
+    </message>
+    <message>
+        <source>%1; put aside because it couldn&apos;t be read: %2</source>
+        <translation>%1。読めないため退避: %2</translation>
+    </message>
 </context>
 <context>
     <name>GroupCarousel</name>
@@ -770,6 +802,21 @@ Dictation can&apos;t work here yet.
     <message>
         <source>Delete group</source>
         <translation>グループを削除</translation>
+    </message>
+</context>
+<context>
+    <name>GroupStore</name>
+    <message>
+        <source>Groups</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>Kept in memory: the groups can&apos;t be saved</source>
+        <translation>メモリにのみ保持: グループを保存できません</translation>
+    </message>
+    <message>
+        <source>The groups can&apos;t be read: a new one begins, the old file is kept</source>
+        <translation>グループを読み取れません: 新しく始め、古いファイルは残します</translation>
     </message>
 </context>
 <context>
@@ -1035,6 +1082,10 @@ Dictation can&apos;t work here yet.
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>入力の妨げにならないよう、Ctrl、Alt、Superのいずれかを加えるか、Fキーを使ってください。</translation>
     </message>
+    <message>
+        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
+        <translation>このキーボードではショートカットにできません。別のものを試してください。</translation>
+    </message>
 </context>
 <context>
     <name>Start</name>
@@ -1127,6 +1178,21 @@ Dictation can&apos;t work here yet.
     <message>
         <source>Transcribing…</source>
         <translation>文字起こし中…</translation>
+    </message>
+</context>
+<context>
+    <name>TranscriptionStore</name>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+    <message>
+        <source>Kept in memory: the history can&apos;t be saved</source>
+        <translation>メモリにのみ保持: 履歴を保存できません</translation>
+    </message>
+    <message>
+        <source>The history can&apos;t be read: a new one begins, the old file is kept</source>
+        <translation>履歴を読み取れません: 新しく始め、古いファイルは残します</translation>
     </message>
 </context>
 </TS>

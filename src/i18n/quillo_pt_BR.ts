@@ -699,6 +699,38 @@ Dictation can&apos;t work here yet.
 O ditado ainda não pode funcionar aqui.
 </translation>
     </message>
+    <message>
+        <source>%1 begins neither with https:// nor http://</source>
+        <translation>%1 não começa com https:// nem com http://</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read</source>
+        <translation>não é possível ler %1</translation>
+    </message>
+    <message>
+        <source>it is kept; to take over what can be read: quillo history --recover %1</source>
+        <translation>ele é mantido; para recuperar o que é legível: quillo history --recover %1</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: nothing new is kept</source>
+        <translation>não é possível gravar em %1: nada novo é mantido</translation>
+    </message>
+    <message>
+        <source>make it yours: chown and chmod u+rwx</source>
+        <translation>torne-o seu: chown e chmod u+rwx</translation>
+    </message>
+    <message>
+        <source>%1: the disk is full, nothing new is kept</source>
+        <translation>%1: o disco está cheio, nada novo é mantido</translation>
+    </message>
+    <message>
+        <source>make room</source>
+        <translation>libere espaço</translation>
+    </message>
+    <message>
+        <source>%1; put aside because it couldn&apos;t be read: %2</source>
+        <translation>%1; posto de lado por estar ilegível: %2</translation>
+    </message>
 </context>
 <context>
     <name>GroupCarousel</name>
@@ -773,6 +805,21 @@ O ditado ainda não pode funcionar aqui.
     <message>
         <source>Delete group</source>
         <translation>Excluir grupo</translation>
+    </message>
+</context>
+<context>
+    <name>GroupStore</name>
+    <message>
+        <source>Groups</source>
+        <translation>Grupos</translation>
+    </message>
+    <message>
+        <source>Kept in memory: the groups can&apos;t be saved</source>
+        <translation>Só na memória: não é possível salvar os grupos</translation>
+    </message>
+    <message>
+        <source>The groups can&apos;t be read: a new one begins, the old file is kept</source>
+        <translation>Não é possível ler os grupos: começam novos, o arquivo antigo é mantido</translation>
     </message>
 </context>
 <context>
@@ -1041,6 +1088,10 @@ O ditado ainda não pode funcionar aqui.
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>Adicione Ctrl, Alt ou Super — ou use uma tecla F — para não atrapalhar a digitação.</translation>
     </message>
+    <message>
+        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
+        <translation>Isso não pode ser um atalho neste teclado. Tente outro.</translation>
+    </message>
 </context>
 <context>
     <name>Start</name>
@@ -1133,6 +1184,21 @@ O ditado ainda não pode funcionar aqui.
     <message>
         <source>Transcribing…</source>
         <translation>Transcrevendo…</translation>
+    </message>
+</context>
+<context>
+    <name>TranscriptionStore</name>
+    <message>
+        <source>History</source>
+        <translation>Histórico</translation>
+    </message>
+    <message>
+        <source>Kept in memory: the history can&apos;t be saved</source>
+        <translation>Só na memória: não é possível salvar o histórico</translation>
+    </message>
+    <message>
+        <source>The history can&apos;t be read: a new one begins, the old file is kept</source>
+        <translation>Não é possível ler o histórico: começa um novo, o arquivo antigo é mantido</translation>
     </message>
 </context>
 </TS>

@@ -696,6 +696,38 @@ Dictation can&apos;t work here yet.
 此处还不能听写。
 </translation>
     </message>
+    <message>
+        <source>%1 begins neither with https:// nor http://</source>
+        <translation>%1 既不以 https:// 也不以 http:// 开头</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read</source>
+        <translation>无法读取 %1</translation>
+    </message>
+    <message>
+        <source>it is kept; to take over what can be read: quillo history --recover %1</source>
+        <translation>文件已保留；恢复可读内容：quillo history --recover %1</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: nothing new is kept</source>
+        <translation>无法写入 %1：新内容不会保存</translation>
+    </message>
+    <message>
+        <source>make it yours: chown and chmod u+rwx</source>
+        <translation>改为自己所有：chown 和 chmod u+rwx</translation>
+    </message>
+    <message>
+        <source>%1: the disk is full, nothing new is kept</source>
+        <translation>%1：磁盘已满，新内容不会保存</translation>
+    </message>
+    <message>
+        <source>make room</source>
+        <translation>腾出空间</translation>
+    </message>
+    <message>
+        <source>%1; put aside because it couldn&apos;t be read: %2</source>
+        <translation>%1；因无法读取已移开：%2</translation>
+    </message>
 </context>
 <context>
     <name>GroupCarousel</name>
@@ -770,6 +802,21 @@ Dictation can&apos;t work here yet.
     <message>
         <source>Delete group</source>
         <translation>删除群组</translation>
+    </message>
+</context>
+<context>
+    <name>GroupStore</name>
+    <message>
+        <source>Groups</source>
+        <translation>群组</translation>
+    </message>
+    <message>
+        <source>Kept in memory: the groups can&apos;t be saved</source>
+        <translation>仅保存在内存中：无法保存群组</translation>
+    </message>
+    <message>
+        <source>The groups can&apos;t be read: a new one begins, the old file is kept</source>
+        <translation>无法读取群组：将新建，旧文件保留</translation>
     </message>
 </context>
 <context>
@@ -1035,6 +1082,10 @@ Dictation can&apos;t work here yet.
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>请加上 Ctrl、Alt 或 Super，或使用 F 键，以免影响打字。</translation>
     </message>
+    <message>
+        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
+        <translation>在此键盘上不能作为快捷键。请换一个。</translation>
+    </message>
 </context>
 <context>
     <name>Start</name>
@@ -1127,6 +1178,21 @@ Dictation can&apos;t work here yet.
     <message>
         <source>Transcribing…</source>
         <translation>正在转写…</translation>
+    </message>
+</context>
+<context>
+    <name>TranscriptionStore</name>
+    <message>
+        <source>History</source>
+        <translation>历史记录</translation>
+    </message>
+    <message>
+        <source>Kept in memory: the history can&apos;t be saved</source>
+        <translation>仅保存在内存中：无法保存历史记录</translation>
+    </message>
+    <message>
+        <source>The history can&apos;t be read: a new one begins, the old file is kept</source>
+        <translation>无法读取历史记录：将新建，旧文件保留</translation>
     </message>
 </context>
 </TS>

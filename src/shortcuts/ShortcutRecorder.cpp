@@ -50,7 +50,8 @@ void ShortcutRecorder::handle(const KeyEvent &event)
     constexpr uint32_t enough = EventFlag::command | EventFlag::option | EventFlag::control;
     const bool isHelped =
         event.keyCode == KeyCode::escape || (event.canBeHotKey && (event.modifierFlags & enough) == 0);
-    m_rejection = shortcut == nullptr && isHelped ? message(std::get<Shortcut::Rejection>(recorded))
-                                                  : u"That can't be a shortcut on this keyboard. Try another one."_s;
+    m_rejection = shortcut == nullptr && isHelped
+                      ? message(std::get<Shortcut::Rejection>(recorded))
+                      : Shortcut::tr("That can't be a shortcut on this keyboard. Try another one.");
     Q_EMIT changed();
 }

@@ -17,10 +17,10 @@ constexpr auto damagedSuffix = ".damaged-"_L1;
 
 } // namespace
 
-FileStore::FileStore(Files &files, Clock &clock, const QString &fileName, const QString &noun)
+FileStore::FileStore(Files &files, Clock &clock, const QString &fileName, Words words)
     : m_files(files),
       m_clock(clock),
-      m_noun(noun),
+      m_words(std::move(words)),
       m_folder(files.applicationSupportFolder() + u"/Quillo"_s),
       m_path(m_folder + u'/' + fileName)
 {
@@ -30,29 +30,30 @@ FileStore::FileStore(Files &files, Clock &clock, const QString &fileName, const 
 QString FileStore::notice() const
 {
     if (m_saveError) {
-        return u"Kept in memory: the %1 can't be saved"_s.arg(m_noun);
+        return m_words.unsaved;
     }
-    return m_isDamaged ? u"The %1 can't be read: a new one begins, the old file is kept"_s.arg(m_noun) : QString();
+    return m_isDamaged ? m_words.damaged : QString();
 }
 
 Finding FileStore::examine() const
 {
-    const QString subject = m_noun.at(0).toUpper() + m_noun.sliced(1);
+    const QString &subject = m_words.subject;
     if (m_isDamaged) {
-        return {subject, Finding::Level::Note, m_path + u" can't be read"_s,
-                u"it is kept; to take over what can be read: quillo history --recover %1"_s.arg(m_path)};
+        return {subject, Finding::Level::Note, Finding::tr("%1 can't be read").arg(m_path),
+                Finding::tr("it is kept; to take over what can be read: quillo history --recover %1").arg(m_path)};
     }
     if (!QFileInfo(m_folder).isWritable()) {
-        return {subject, Finding::Level::Note, m_folder + u" can't be written: nothing new is kept"_s,
-                u"make it yours: chown and chmod u+rwx"_s};
+        return {subject, Finding::Level::Note, Finding::tr("%1 can't be written: nothing new is kept").arg(m_folder),
+                Finding::tr("make it yours: chown and chmod u+rwx")};
     }
     // A save writes a whole new file before the old one goes.
     if (QStorageInfo(m_folder).bytesAvailable() < QFileInfo(m_path).size() + 4096) {
-        return {subject, Finding::Level::Note, m_path + u": the disk is full, nothing new is kept"_s, u"make room"_s};
+        return {subject, Finding::Level::Note, Finding::tr("%1: the disk is full, nothing new is kept").arg(m_path),
+                Finding::tr("make room")};
     }
     if (const QStringList damaged = damagedFiles(); !damaged.isEmpty()) {
         return {subject, Finding::Level::Good,
-                u"%1; put aside because it couldn't be read: %2"_s.arg(m_path, damaged.join(u", "_s))};
+                Finding::tr("%1; put aside because it couldn't be read: %2").arg(m_path, damaged.join(u", "_s))};
     }
     return {subject, Finding::Level::Good, m_path};
 }

@@ -42,8 +42,16 @@ Q_SIGNALS:
     void noticeChanged();
 
 protected:
-    /// Creates the program's folder; a failure shows at the first save. `noun`: what a sentence calls the list.
-    FileStore(Files &files, Clock &clock, const QString &fileName, const QString &noun);
+    /// What the user is told of this list, in whole sentences: no language puts them together from parts.
+    struct Words {
+        /// Its name, as `examine` has it.
+        QString subject;
+        QString unsaved;
+        QString damaged;
+    };
+
+    /// Creates the program's folder; a failure shows at the first save.
+    FileStore(Files &files, Clock &clock, const QString &fileName, Words words);
 
     /// To be called once, by the constructor that knows how to decode.
     void load();
@@ -72,7 +80,7 @@ private:
 
     Files &m_files;
     Clock &m_clock;
-    QString m_noun;
+    Words m_words;
     QString m_folder;
     QString m_path;
     QByteArray m_stamp;

@@ -20,7 +20,10 @@ const QString activeIdKey = u"activeGroupId"_s;
 } // namespace
 
 GroupStore::GroupStore(Files &files, Preferences &preferences, Clock &clock)
-    : RecordStore(files, clock, u"groups.json"_s, u"groups"_s), m_preferences(preferences)
+    : RecordStore(files, clock, u"groups.json"_s,
+                  {tr("Groups"), tr("Kept in memory: the groups can't be saved"),
+                   tr("The groups can't be read: a new one begins, the old file is kept")}),
+      m_preferences(preferences)
 {
     load();
     const auto stored = group(m_preferences.string(activeIdKey));

@@ -38,7 +38,10 @@ QString timestamp(Clock::Instant now)
 } // namespace
 
 TranscriptionStore::TranscriptionStore(Files &files, Clock &clock)
-    : RecordStore(files, clock, u"transcriptions.json"_s, u"history"_s), m_clock(clock)
+    : RecordStore(files, clock, u"transcriptions.json"_s,
+                  {tr("History"), tr("Kept in memory: the history can't be saved"),
+                   tr("The history can't be read: a new one begins, the old file is kept")}),
+      m_clock(clock)
 {
     load();
 }

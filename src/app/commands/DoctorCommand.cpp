@@ -141,8 +141,9 @@ QCoro::Task<Finding> backendFinding(Services &services)
                           Finding::tr("set apiURL in %1").arg(IniPreferences::defaultPath())};
     }
     if (address->scheme() != u"https" && address->scheme() != u"http") {
-        co_return Finding{subject, Level::Problem, address->toString() + u" begins neither with https:// nor http://"_s,
-                          u"set apiURL in %1"_s.arg(IniPreferences::defaultPath())};
+        co_return Finding{subject, Level::Problem,
+                          Finding::tr("%1 begins neither with https:// nor http://").arg(address->toString()),
+                          Finding::tr("set apiURL in %1").arg(IniPreferences::defaultPath())};
     }
     const QUrl url = ApiClient::endpoint(*address, u"/v1/balance"_s);
     HttpTransport transport(backendPatience);
