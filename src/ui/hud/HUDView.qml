@@ -20,7 +20,7 @@ Item {
     readonly property bool isProblem: isOutOfTokens || model.isError
 
     Accessible.role: Accessible.Notification
-    Accessible.name: isGroup ? groupText.join(model.text) : phaseText()
+    Accessible.name: isGroup ? groupText[0] + model.text + (groupText[1] ?? "") : phaseText()
 
     // What stands before and behind the group's name.
     readonly property list<string> groupText: qsTr("Dictating into %1").split("%1")
