@@ -42,7 +42,7 @@ void print(const QString &line)
 
 QString timeText(qint64 seconds)
 {
-    return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate);
+    return QDateTime::fromSecsSinceEpoch(seconds).toUTC().toString(Qt::ISODate);
 }
 
 QString line(const DeviceRecord &device)

@@ -139,7 +139,7 @@ std::error_code FileStore::write()
 bool FileStore::putAside() const
 {
     const QString file = QFileInfo(m_path).canonicalFilePath();
-    const QDateTime now = QDateTime::fromMSecsSinceEpoch(m_clock.now().time_since_epoch().count(), Qt::UTC);
+    const QDateTime now = QDateTime::fromMSecsSinceEpoch(m_clock.now().time_since_epoch().count()).toUTC();
     if (!QFile::rename(file, file + damagedSuffix + now.toString(u"yyyyMMdd'T'HHmmss.zzz'Z'"))) {
         return false;
     }

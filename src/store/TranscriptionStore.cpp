@@ -32,7 +32,7 @@ void encode(JsonWriter &json, const Transcription &entry)
 QString timestamp(Clock::Instant now)
 {
     const auto seconds = std::chrono::floor<std::chrono::seconds>(now).time_since_epoch().count();
-    return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate);
+    return QDateTime::fromSecsSinceEpoch(seconds).toUTC().toString(Qt::ISODate);
 }
 
 } // namespace
