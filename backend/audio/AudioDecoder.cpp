@@ -241,8 +241,11 @@ void decodePacket(AVCodecContext &codec, const AVPacket *packet, AVFrame &frame,
 
 size_t decodeAudio(std::string_view file, const DecodingLimits &limits, const SampleSink &sink)
 {
-    av_log_set_level(AV_LOG_QUIET);
-    av_max_alloc(largestBlock);
+    [[maybe_unused]] static const auto once = [] { // for the whole process, and not by several threads
+        av_log_set_level(AV_LOG_QUIET);
+        av_max_alloc(largestBlock);
+        return true;
+    }();
     constexpr int bufferSize = 32 * 1024;
     Budget budget(file.size(), limits);
     MemoryFile memory{file, budget};

@@ -51,7 +51,9 @@ Message messageOf(Reply &reply, unsigned version, bool keepAlive)
     message.version(version);
     message.result(reply.status);
     message.keep_alive(keepAlive);
-    message.set(http::field::content_type, reply.contentType);
+    if (!reply.contentType.empty()) {
+        message.set(http::field::content_type, reply.contentType);
+    }
     message.set(http::field::cache_control, "no-store");
     message.set("X-Content-Type-Options", "nosniff");
     for (const auto &[name, value] : reply.headers) {

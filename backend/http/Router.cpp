@@ -87,6 +87,7 @@ Reply Router::withoutRoute(const Request &request, std::string_view pattern) con
     if (request.method == "OPTIONS") {
         reply = {};
         reply.status = 204;
+        reply.contentType.clear();
     }
     reply.headers.emplace_back("Allow", methods(pattern));
     return reply;

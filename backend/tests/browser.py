@@ -8,6 +8,7 @@ import http.client
 import http.server
 import json
 import pathlib
+import select
 import socket
 import ssl
 import subprocess
@@ -135,11 +136,14 @@ class Site:
         subprocess.run(nginx, check=True, stderr=subprocess.DEVNULL)  # returns when it listens
         stack.callback(subprocess.run, nginx + ["-s", "stop"], check=True, stderr=subprocess.DEVNULL)
         self.context = ssl.create_default_context(cafile=str(folder / "pem"))
+        self.context.maximum_version = ssl.TLSVersion.TLSv1_2  # nothing but replies makes its sockets readable
+
+    def connect(self):
+        return self.context.wrap_socket(socket.create_connection(("127.0.0.1", self.https)), server_hostname=NAME)
 
     def send(self, method, path, headers=None, body=None):
         connection = http.client.HTTPSConnection("127.0.0.1", self.https, context=self.context, timeout=60)
-        connection.sock = self.context.wrap_socket(socket.create_connection(("127.0.0.1", self.https)),
-                                                   server_hostname=NAME)
+        connection.sock = self.connect()
         with contextlib.closing(connection):
             connection.request(method, path, body, {"Host": NAME} | (headers or {}))
             response = connection.getresponse()
@@ -160,7 +164,7 @@ class BrowserTest(unittest.TestCase):
         self.folder = self.stack.enter_context(tempfile.TemporaryDirectory())
 
     def test_the_proxy_passes_on_what_the_server_decides(self):
-        site = Site(self.stack, self.folder, "--free-tokens=9")
+        site = Site(self.stack, self.folder, "--free-tokens=9", "--transcriptions-per-device=0")
         site.register()
         self.assertEqual(site.send("GET", "/metrics")[0], 404)
         form = b'--b\r\nContent-Disposition: form-data; name="file"\r\n\r\n' + b"x" * 200_000 + b"\r\n--b--\r\n"
@@ -172,10 +176,28 @@ class BrowserTest(unittest.TestCase):
         with contextlib.closing(plain):
             plain.request("GET", "/v1/balance", headers={"Host": NAME})
             self.assertEqual(plain.getresponse().status, 308)
+        upload = f"POST /v1/transcribe HTTP/1.1\r\nHost: {NAME}\r\nContent-Length: 9\r\n"
+        upload += f"Authorization: {site.register()['Authorization']}\r\n\r\nx"
+        uploads = [self.stack.enter_context(site.connect()) for _ in range(65)]
+        for connection in uploads:
+            connection.sendall(upload.encode())
+        answered = select.select(uploads, [], [])[0]  # the others wait for the rest of their bodies
+        self.assertEqual([b" 429 " in connection.recv(65536) for connection in answered], [True])
+        for connection in uploads:
+            connection.close()
         site.server.terminate()
         lines = [json.loads(line) for line in site.server.stderr if line.startswith("{")]
         self.assertEqual({line["address"] for line in lines}, {"127.0.0.1"})  # not what the client claimed
         self.assertIn("/v1/transcribe", {line["route"] for line in lines})
+
+    def test_the_proxy_limits_what_an_address_asks(self):
+        site = Site(self.stack, self.folder)
+        request = f"GET /v1/balance HTTP/1.1\r\nHost: {NAME}\r\n".encode()
+        with site.connect() as connection:
+            connection.sendall((request + b"\r\n") * 400 + request + b"Connection: close\r\n\r\n")
+            replies = b"".join(iter(lambda: connection.recv(65536), b""))
+        self.assertGreaterEqual(replies.count(b"HTTP/1.1 401"), 100)
+        self.assertGreater(replies.count(b"HTTP/1.1 429"), 0)
 
     def test_the_proxy_logs_no_link(self):
         site = Site(self.stack, self.folder)

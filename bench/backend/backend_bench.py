@@ -33,7 +33,9 @@ def tell(name, unit, value, reference=None, limit=None, limit_on="ratio"):
 class Server:
     def __init__(self, stack, program, database, *options):
         self.process = subprocess.Popen([program, "--port=0", f"--database={database}", "--registrations-per-hour=0",
-                                         "--free-tokens=1000000000", *options], stdout=subprocess.PIPE, text=True)
+                                         "--free-tokens=1000000000", "--connections-per-address=0",
+                                         "--transcriptions-per-device=0", "--decoding-per-device=86400", *options],
+                                        stdout=subprocess.PIPE, text=True)
         stack.callback(self.stop)
         self.address = self.process.stdout.readline().strip().rsplit("/", 1)[-1]
 
