@@ -7,6 +7,26 @@
 
 #include <utility>
 
+namespace {
+
+bool isModifier(const QKeyEvent &event)
+{
+    switch (event.key()) {
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Meta:
+    case Qt::Key_Super_L:
+    case Qt::Key_Super_R:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
 ShortcutRecorderModel::ShortcutRecorderModel(KeyMonitors &keyMonitors, ShortcutRecorder::Actions actions)
     : m_recorder(keyMonitors, std::move(actions))
 {
@@ -51,8 +71,9 @@ bool ShortcutRecorderModel::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::KeyRelease:
         // The recorder hears of a key before or after the window does, so the end of its listening does not tell
-        // whether the key's own events have passed; its release does.
-        if (!isRecording() && !static_cast<QKeyEvent *>(event)->isAutoRepeat()) {
+        // whether the key's own events have passed; its release does. That of a modifier may be an earlier key's.
+        if (!isRecording() && !isModifier(*static_cast<QKeyEvent *>(event)) &&
+            !static_cast<QKeyEvent *>(event)->isAutoRepeat()) {
             setEatingKeys(false);
         }
         return true;
