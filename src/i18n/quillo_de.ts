@@ -267,6 +267,14 @@ Rückgabewert: 0 erledigt, 1 misslungen, 2 Befehlszeile falsch, 3 Quillo läuft 
         <source>You can withdraw this at any time from the menu bar under Data &amp; AI. Without it, dictation stays off.</source>
         <translation>Sie können das jederzeit in den Einstellungen unter „Daten und KI“ widerrufen. Ohne Zustimmung bleibt das Diktat aus.</translation>
     </message>
+    <message>
+        <source>Recordings go to %1, on this computer: they stay here unless that server passes them on.</source>
+        <translation>Aufnahmen gehen an %1 auf diesem Rechner: Sie bleiben hier, solange dieser Server sie nicht weitergibt.</translation>
+    </message>
+    <message>
+        <source>Recordings go to %1.</source>
+        <translation>Aufnahmen gehen an %1.</translation>
+    </message>
 </context>
 <context>
     <name>Display</name>

@@ -267,6 +267,14 @@ Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t 
         <source>You can withdraw this at any time from the menu bar under Data &amp; AI. Without it, dictation stays off.</source>
         <translation>You can withdraw this at any time in the settings under Data &amp; AI. Without it, dictation stays off.</translation>
     </message>
+    <message>
+        <source>Recordings go to %1, on this computer: they stay here unless that server passes them on.</source>
+        <translation>Recordings go to %1, on this computer: they stay here unless that server passes them on.</translation>
+    </message>
+    <message>
+        <source>Recordings go to %1.</source>
+        <translation>Recordings go to %1.</translation>
+    </message>
 </context>
 <context>
     <name>Display</name>

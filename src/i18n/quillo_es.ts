@@ -267,6 +267,14 @@ Estado de salida: 0 hecho, 1 fallo, 2 línea de órdenes incorrecta, 3 Quillo no
         <source>You can withdraw this at any time from the menu bar under Data &amp; AI. Without it, dictation stays off.</source>
         <translation>Puede retirarlo en cualquier momento en los ajustes, en Datos e IA. Sin él, el dictado queda desactivado.</translation>
     </message>
+    <message>
+        <source>Recordings go to %1, on this computer: they stay here unless that server passes them on.</source>
+        <translation>Las grabaciones van a %1, en este equipo: se quedan aquí salvo que ese servidor las reenvíe.</translation>
+    </message>
+    <message>
+        <source>Recordings go to %1.</source>
+        <translation>Las grabaciones van a %1.</translation>
+    </message>
 </context>
 <context>
     <name>Display</name>

@@ -267,6 +267,14 @@ Code de retour : 0 fait, 1 échec, 2 ligne de commande incorrecte, 3 Quillo ne t
         <source>You can withdraw this at any time from the menu bar under Data &amp; AI. Without it, dictation stays off.</source>
         <translation>Vous pouvez le retirer à tout moment dans les réglages, sous Données et IA. Sans lui, la dictée reste désactivée.</translation>
     </message>
+    <message>
+        <source>Recordings go to %1, on this computer: they stay here unless that server passes them on.</source>
+        <translation>Les enregistrements vont à %1, sur cet ordinateur : ils y restent, sauf si ce serveur les transmet.</translation>
+    </message>
+    <message>
+        <source>Recordings go to %1.</source>
+        <translation>Les enregistrements vont à %1.</translation>
+    </message>
 </context>
 <context>
     <name>Display</name>

@@ -264,6 +264,14 @@ Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t 
         <source>You can withdraw this at any time from the menu bar under Data &amp; AI. Without it, dictation stays off.</source>
         <translation>設定の「データとAI」でいつでも取り消せます。同意がない間、音声入力はオフのままです。</translation>
     </message>
+    <message>
+        <source>Recordings go to %1, on this computer: they stay here unless that server passes them on.</source>
+        <translation>録音はこのコンピューター上の%1に送られます。そのサーバーが転送しない限り、外には出ません。</translation>
+    </message>
+    <message>
+        <source>Recordings go to %1.</source>
+        <translation>録音の送信先: %1</translation>
+    </message>
 </context>
 <context>
     <name>Display</name>

@@ -267,6 +267,14 @@ Status de saída: 0 feito, 1 falhou, 2 linha de comando errada, 3 o Quillo não 
         <source>You can withdraw this at any time from the menu bar under Data &amp; AI. Without it, dictation stays off.</source>
         <translation>Você pode retirá-lo a qualquer momento nas configurações, em Dados e IA. Sem ele, o ditado fica desligado.</translation>
     </message>
+    <message>
+        <source>Recordings go to %1, on this computer: they stay here unless that server passes them on.</source>
+        <translation>As gravações vão para %1, neste computador: ficam aqui, a menos que esse servidor as repasse.</translation>
+    </message>
+    <message>
+        <source>Recordings go to %1.</source>
+        <translation>As gravações vão para %1.</translation>
+    </message>
 </context>
 <context>
     <name>Display</name>

@@ -264,6 +264,14 @@ Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t 
         <source>You can withdraw this at any time from the menu bar under Data &amp; AI. Without it, dictation stays off.</source>
         <translation>您可以随时在设置的“数据与 AI”中撤回。未同意时，听写保持关闭。</translation>
     </message>
+    <message>
+        <source>Recordings go to %1, on this computer: they stay here unless that server passes them on.</source>
+        <translation>录音会发送到本机的 %1：除非该服务器转发，否则不会离开这台计算机。</translation>
+    </message>
+    <message>
+        <source>Recordings go to %1.</source>
+        <translation>录音会发送到 %1。</translation>
+    </message>
 </context>
 <context>
     <name>Display</name>

@@ -9,9 +9,10 @@
 
 #include <utility>
 
-ConsentWindow::ConsentWindow(AIConsent &consent, const PackagedInfo &packagedInfo, Application &application,
-                             const Screens &screens, WindowFactory makeWindow)
+ConsentWindow::ConsentWindow(AIConsent &consent, const Preferences &preferences, const PackagedInfo &packagedInfo,
+                             Application &application, const Screens &screens, WindowFactory makeWindow)
     : m_consent(consent),
+      m_preferences(preferences),
       m_packagedInfo(packagedInfo),
       m_application(application),
       m_screens(screens),
@@ -26,7 +27,7 @@ void ConsentWindow::show(bool isReview, FinishHandler onFinish)
     m_onFinish = nullptr;
     dispose();
     m_onFinish = std::move(onFinish);
-    auto disclosure = std::make_unique<DisclosureView>(isReview, m_consent, m_packagedInfo,
+    auto disclosure = std::make_unique<DisclosureView>(isReview, m_consent, m_preferences, m_packagedInfo,
                                                        [this](bool wantsConsent) { complete(wantsConsent); });
     m_window = m_makeWindow(*disclosure);
     disclosure.release()->setParent(m_window.get()); // it goes after the view that observes it

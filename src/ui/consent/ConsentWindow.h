@@ -11,6 +11,7 @@
 class AIConsent;
 class Application;
 class PackagedInfo;
+class Preferences;
 class QWindow;
 class Screens;
 
@@ -23,8 +24,8 @@ public:
     /// Makes the window with the view of a disclosure in it, not yet shown; the disclosure outlives the window.
     using WindowFactory = std::function<std::unique_ptr<QWindow>(DisclosureView &)>;
 
-    ConsentWindow(AIConsent &consent, const PackagedInfo &packagedInfo, Application &application,
-                  const Screens &screens, WindowFactory makeWindow);
+    ConsentWindow(AIConsent &consent, const Preferences &preferences, const PackagedInfo &packagedInfo,
+                  Application &application, const Screens &screens, WindowFactory makeWindow);
     ConsentWindow(const ConsentWindow &) = delete;
     ConsentWindow &operator=(const ConsentWindow &) = delete;
     ~ConsentWindow() override;
@@ -41,6 +42,7 @@ private:
     void dispose();
 
     AIConsent &m_consent;
+    const Preferences &m_preferences;
     const PackagedInfo &m_packagedInfo;
     Application &m_application;
     const Screens &m_screens;

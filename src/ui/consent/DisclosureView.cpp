@@ -2,6 +2,7 @@
 #include "ui/consent/DisclosureView.h"
 
 #include "platform/PackagedInfo.h"
+#include "service/ApiClient.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -30,12 +31,13 @@ QString longDateShortTime(Clock::Instant time)
 
 } // namespace
 
-DisclosureView::DisclosureView(bool isReview, AIConsent &consent, const PackagedInfo &packagedInfo,
-                               FinishHandler onFinish)
+DisclosureView::DisclosureView(bool isReview, AIConsent &consent, const Preferences &preferences,
+                               const PackagedInfo &packagedInfo, FinishHandler onFinish)
     : m_isReview(isReview),
       m_consent(consent),
       m_onFinish(std::move(onFinish)),
       m_granted(consent.record()),
+      m_server(ApiClient::baseUrl(preferences, packagedInfo).value_or(QUrl()).host()),
       m_openAIPrivacyURL(packagedInfo.string(u"QLOOpenAIPrivacyURL"_s).value_or(QString())),
       m_privacyPolicyURL(packagedInfo.string(u"QLOPrivacyPolicyURL"_s).value_or(QString()))
 {
@@ -49,6 +51,11 @@ bool DisclosureView::isGranted() const
 QString DisclosureView::agreement() const
 {
     return m_granted ? longDateShortTime(m_granted->grantedAt) : QString();
+}
+
+bool DisclosureView::isServerHere() const
+{
+    return m_server == u"localhost" || m_server == u"::1" || m_server.startsWith(u"127.");
 }
 
 void DisclosureView::agree()

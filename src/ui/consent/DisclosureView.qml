@@ -120,6 +120,16 @@ Rectangle {
             }
         }
 
+        Paragraph {
+            visible: view.model.server !== ""
+            text: (view.model.isServerHere
+                   ? qsTr("Recordings go to %1, on this computer: they stay here unless that server passes them on.")
+                   : qsTr("Recordings go to %1.")).arg(view.model.server)
+            textFormat: Text.PlainText
+            font.pixelSize: 12
+            color: SystemColors.secondary
+        }
+
         Rectangle {
             width: parent.width
             height: 1
@@ -135,11 +145,17 @@ Rectangle {
         }
 
         Item {
+            id: answers
+
+            // Side by side, or the one below the other where a language needs the room.
+            readonly property bool isStacked: no.implicitWidth + 12 + yes.implicitWidth > width
+
             width: parent.width
-            height: yes.implicitHeight
+            height: no.y + no.implicitHeight
 
             PushButton {
                 id: no
+                y: answers.isStacked ? yes.implicitHeight + 8 : 0
                 text: view.showsAgreement ? qsTr("Withdraw consent") : view.model.isReview ? qsTr("Close")
                                                                                          : qsTr("Not now")
                 isDestructive: view.showsAgreement

@@ -94,7 +94,7 @@ Item {
                     id: label
 
                     // What is left of the window beside the symbol, the button and the capsule's padding.
-                    width: Math.min(implicitWidth, view.isOutOfTokens ? 160 : view.isRecording ? 200 : 227)
+                    width: Math.min(implicitWidth, view.isOutOfTokens ? 217 - buyButton.width : view.isRecording ? 200 : 227)
                     text: view.phaseText()
                     textFormat: Text.PlainText
                     wrapMode: Text.Wrap
@@ -106,7 +106,7 @@ Item {
 
                 Text {
                     visible: view.isGroup
-                    width: Math.min(implicitWidth, 227 - label.width)
+                    width: Math.min(implicitWidth, 227 - label.width - tail.width)
                     text: view.isGroup ? view.model.text : ""
                     textFormat: Text.PlainText
                     elide: Text.ElideRight
@@ -115,7 +115,10 @@ Item {
                 }
 
                 Text {
-                    visible: view.isGroup && text !== ""
+                    id: tail
+
+                    visible: view.isGroup
+                    width: visible ? implicitWidth : 0
                     text: view.groupText[1] ?? ""
                     textFormat: Text.PlainText
                     color: "white"
