@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "i18n/Translations.h"
 #include "platform/KeyCodes.h"
 #include "support/Await.h"
 #include "ui/Windows.h"
@@ -15,12 +16,14 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
+#include <QTranslator>
 
 #include <cstdio>
 #include <stdexcept>
 
 // Renders every window and every phase of the HUD with the program's own views into a folder of PNG files.
-// Usage: quillo-screenshots FOLDER [SUFFIX]
+// Usage: quillo-screenshots FOLDER SUFFIX LANGUAGE
+// In the language "pseudo" it fails when a text is cut off.
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -29,6 +32,7 @@ namespace {
 
 QString folder;
 QString suffix;
+bool isAnyTextCutOff = false;
 
 void letSettle(std::chrono::milliseconds duration)
 {
@@ -37,9 +41,27 @@ void letSettle(std::chrono::milliseconds duration)
     loop.exec();
 }
 
+/// The program's own texts are in brackets; what a person has written may be cut off.
+void findCutOffTexts(const QQuickItem &item, const QString &name)
+{
+    if (!item.isVisible()) {
+        return;
+    }
+    const QString text = item.property("text").toString();
+    const bool isTooWide = item.mapToScene({item.width(), 0}).x() > item.window()->width();
+    if (text.startsWith(u'[') && (item.property("truncated").toBool() || isTooWide)) {
+        std::fprintf(stderr, "cut off in %s: %s\n", qPrintable(name), qPrintable(text));
+        isAnyTextCutOff = true;
+    }
+    for (const QQuickItem *child : item.childItems()) {
+        findCutOffTexts(*child, name);
+    }
+}
+
 void save(QQuickWindow &window, const QString &name)
 {
     letSettle(600ms); // the longest animation takes 350 ms
+    findCutOffTexts(*window.contentItem(), name);
     const QString path = folder + u'/' + name + suffix + u".png"_s;
     if (!window.grabWindow().save(path)) {
         throw std::runtime_error("can't write " + path.toStdString());
@@ -172,9 +194,10 @@ void takeConsent(const QString &scheme)
     QQmlEngine engine;
     AIConsent consent(fake.preferences, fake.clock);
     fake.packagedInfo.values = {{u"QLOOpenAIPrivacyURL"_s, u"https://openai.example/"_s},
-                                {u"QLOPrivacyPolicyURL"_s, u"https://quillo.example/"_s}};
+                                {u"QLOPrivacyPolicyURL"_s, u"https://quillo.example/"_s},
+                                {u"QLOApiURL"_s, u"http://127.0.0.1:8791"_s}};
     for (const bool isReview : {false, true}) {
-        DisclosureView disclosure(isReview, consent, fake.packagedInfo, [](bool) {});
+        DisclosureView disclosure(isReview, consent, fake.preferences, fake.packagedInfo, [](bool) {});
         const auto window = ConsentView::makeWindow(engine, disclosure);
         window->show();
         save(static_cast<QQuickWindow &>(*window), (isReview ? u"consent-review-"_s : u"consent-first-"_s) + scheme);
@@ -217,6 +240,16 @@ void setDark(bool isDark)
     QGuiApplication::setPalette(palette);
 }
 
+void speak(const QString &language)
+{
+    Translations::install(language);
+    static QTranslator pseudo;
+    if (language == u"pseudo" && pseudo.load(u":/i18n/quillo_pseudo.qm"_s)) {
+        QCoreApplication::installTranslator(&pseudo);
+    }
+    QLocale::setDefault(QLocale(language)); // dates and numbers
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -224,12 +257,13 @@ int main(int argc, char *argv[])
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() < 2) {
-        std::fputs("usage: quillo-screenshots FOLDER [SUFFIX]\n", stderr);
+    if (arguments.size() != 4) {
+        std::fputs("usage: quillo-screenshots FOLDER SUFFIX LANGUAGE\n", stderr);
         return 2;
     }
     folder = arguments.at(1);
-    suffix = arguments.value(2);
+    suffix = arguments.at(2);
+    speak(arguments.at(3));
     QDir().mkpath(folder);
     Paper::registerFonts(qEnvironmentVariable("QUILLO_RESOURCES"));
     try {
@@ -241,7 +275,7 @@ int main(int argc, char *argv[])
         takeSettings(u"dark"_s);
         takeConsent(u"dark"_s);
         takeHUD();
-        return 0;
+        return isAnyTextCutOff ? 1 : 0;
     } catch (const std::exception &error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;
