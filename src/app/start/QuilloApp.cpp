@@ -14,6 +14,7 @@
 #include "app/start/Composition.h"
 #include "app/start/DisplayChoice.h"
 #include "app/start/TerminationSignals.h"
+#include "app/start/forbidCoreDumps.h"
 #include "app/start/speakPreferredLanguage.h"
 #include "platform/Platform.h"
 
@@ -117,6 +118,7 @@ template <typename... Cases> Overloaded(Cases...) -> Overloaded<Cases...>;
 
 int QuilloApp::run(int argc, char *argv[])
 {
+    forbidCoreDumps();
     QCoreApplication::setApplicationName(u"Quillo"_s);
     QCoreApplication::setApplicationVersion(u"" QUILLO_VERSION ""_s);
     QGuiApplication::setDesktopFileName(u"app.quillo.Quillo"_s);
