@@ -82,6 +82,10 @@
         <source>Couldn&apos;t start the microphone.</source>
         <translation>Das Mikrofon lässt sich nicht starten.</translation>
     </message>
+    <message>
+        <source>Unlock the keyring first</source>
+        <translation>Entsperren Sie zuerst den Schlüsselbund</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -512,10 +516,6 @@ Rückgabewert: 0 erledigt, 1 misslungen, 2 Befehlszeile falsch, 3 Quillo läuft 
         <translation>vorhanden, ohne Standard-Schlüsselbund</translation>
     </message>
     <message>
-        <source>it is made when Quillo first stores its credential</source>
-        <translation>er entsteht, wenn Quillo seinen Zugang zum ersten Mal speichert</translation>
-    </message>
-    <message>
         <source>locked</source>
         <translation>gesperrt</translation>
     </message>
@@ -738,6 +738,10 @@ Hier kann noch nicht diktiert werden.
     <message>
         <source>%1; put aside because it couldn&apos;t be read: %2</source>
         <translation>%1; beiseitegelegt, weil nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>it is made, with a password of yours, when tokens are bought; until then the credential is kept in memory and each start is a new device</source>
+        <translation>er entsteht mit einem Passwort von Ihnen, wenn Tokens gekauft werden; bis dahin bleibt der Zugang im Arbeitsspeicher, und jeder Start ist ein neues Gerät</translation>
     </message>
 </context>
 <context>

@@ -82,6 +82,10 @@
         <source>Couldn&apos;t start the microphone.</source>
         <translation>Couldn&apos;t start the microphone.</translation>
     </message>
+    <message>
+        <source>Unlock the keyring first</source>
+        <translation>Unlock the keyring first</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -512,10 +516,6 @@ Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t 
         <translation>there, without a default keyring</translation>
     </message>
     <message>
-        <source>it is made when Quillo first stores its credential</source>
-        <translation>it is made when Quillo first stores its credential</translation>
-    </message>
-    <message>
         <source>locked</source>
         <translation>locked</translation>
     </message>
@@ -738,6 +738,10 @@ Dictation can&apos;t work here yet.
     <message>
         <source>%1; put aside because it couldn&apos;t be read: %2</source>
         <translation>%1; put aside because it couldn&apos;t be read: %2</translation>
+    </message>
+    <message>
+        <source>it is made, with a password of yours, when tokens are bought; until then the credential is kept in memory and each start is a new device</source>
+        <translation>it is made, with a password of yours, when tokens are bought; until then the credential is kept in memory and each start is a new device</translation>
     </message>
 </context>
 <context>

@@ -82,6 +82,10 @@
         <source>Couldn&apos;t start the microphone.</source>
         <translation>No se pudo iniciar el micrófono.</translation>
     </message>
+    <message>
+        <source>Unlock the keyring first</source>
+        <translation>Desbloquee primero el depósito de claves</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -512,10 +516,6 @@ Estado de salida: 0 hecho, 1 fallo, 2 línea de órdenes incorrecta, 3 Quillo no
         <translation>presente, sin depósito predeterminado</translation>
     </message>
     <message>
-        <source>it is made when Quillo first stores its credential</source>
-        <translation>se crea cuando Quillo guarda su credencial por primera vez</translation>
-    </message>
-    <message>
         <source>locked</source>
         <translation>bloqueado</translation>
     </message>
@@ -738,6 +738,10 @@ El dictado todavía no puede funcionar aquí.
     <message>
         <source>%1; put aside because it couldn&apos;t be read: %2</source>
         <translation>%1; apartado por ilegible: %2</translation>
+    </message>
+    <message>
+        <source>it is made, with a password of yours, when tokens are bought; until then the credential is kept in memory and each start is a new device</source>
+        <translation>se crea, con una contraseña suya, al comprar tokens; hasta entonces la credencial queda en memoria y cada inicio es un dispositivo nuevo</translation>
     </message>
 </context>
 <context>

@@ -82,6 +82,10 @@
         <source>Couldn&apos;t start the microphone.</source>
         <translation>Impossible de démarrer le microphone.</translation>
     </message>
+    <message>
+        <source>Unlock the keyring first</source>
+        <translation>Déverrouillez d’abord le trousseau</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -512,10 +516,6 @@ Code de retour : 0 fait, 1 échec, 2 ligne de commande incorrecte, 3 Quillo ne t
         <translation>présent, sans trousseau par défaut</translation>
     </message>
     <message>
-        <source>it is made when Quillo first stores its credential</source>
-        <translation>il est créé quand Quillo enregistre son identifiant</translation>
-    </message>
-    <message>
         <source>locked</source>
         <translation>verrouillé</translation>
     </message>
@@ -738,6 +738,10 @@ La dictée ne peut pas encore fonctionner ici.
     <message>
         <source>%1; put aside because it couldn&apos;t be read: %2</source>
         <translation>%1 ; mis de côté car illisible : %2</translation>
+    </message>
+    <message>
+        <source>it is made, with a password of yours, when tokens are bought; until then the credential is kept in memory and each start is a new device</source>
+        <translation>il est créé, avec un mot de passe de votre choix, à l’achat de jetons ; d’ici là, l’identifiant reste en mémoire et chaque démarrage est un nouvel appareil</translation>
     </message>
 </context>
 <context>

@@ -79,6 +79,10 @@
         <source>Couldn&apos;t start the microphone.</source>
         <translation>マイクを開始できませんでした。</translation>
     </message>
+    <message>
+        <source>Unlock the keyring first</source>
+        <translation>先にキーリングのロックを解除してください</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -509,10 +513,6 @@ Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t 
         <translation>あり、既定のキーリングなし</translation>
     </message>
     <message>
-        <source>it is made when Quillo first stores its credential</source>
-        <translation>Quilloが最初に資格情報を保存するときに作られます</translation>
-    </message>
-    <message>
         <source>locked</source>
         <translation>ロック中</translation>
     </message>
@@ -735,6 +735,10 @@ Dictation can&apos;t work here yet.
     <message>
         <source>%1; put aside because it couldn&apos;t be read: %2</source>
         <translation>%1。読めないため退避: %2</translation>
+    </message>
+    <message>
+        <source>it is made, with a password of yours, when tokens are bought; until then the credential is kept in memory and each start is a new device</source>
+        <translation>トークンの購入時に、ご自分のパスワードで作成されます。それまで資格情報はメモリー内に置かれ、起動のたびに新しいデバイスになります</translation>
     </message>
 </context>
 <context>

@@ -82,6 +82,10 @@
         <source>Couldn&apos;t start the microphone.</source>
         <translation>Não foi possível iniciar o microfone.</translation>
     </message>
+    <message>
+        <source>Unlock the keyring first</source>
+        <translation>Desbloqueie primeiro o chaveiro</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -512,10 +516,6 @@ Status de saída: 0 feito, 1 falhou, 2 linha de comando errada, 3 o Quillo não 
         <translation>presente, sem chaveiro padrão</translation>
     </message>
     <message>
-        <source>it is made when Quillo first stores its credential</source>
-        <translation>ele é criado quando o Quillo guarda sua credencial pela primeira vez</translation>
-    </message>
-    <message>
         <source>locked</source>
         <translation>bloqueado</translation>
     </message>
@@ -738,6 +738,10 @@ O ditado ainda não pode funcionar aqui.
     <message>
         <source>%1; put aside because it couldn&apos;t be read: %2</source>
         <translation>%1; posto de lado por estar ilegível: %2</translation>
+    </message>
+    <message>
+        <source>it is made, with a password of yours, when tokens are bought; until then the credential is kept in memory and each start is a new device</source>
+        <translation>ele é criado, com uma senha sua, na compra de tokens; até lá a credencial fica na memória e cada início é um novo dispositivo</translation>
     </message>
 </context>
 <context>

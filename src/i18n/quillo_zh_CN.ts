@@ -79,6 +79,10 @@
         <source>Couldn&apos;t start the microphone.</source>
         <translation>无法启动麦克风。</translation>
     </message>
+    <message>
+        <source>Unlock the keyring first</source>
+        <translation>请先解锁密钥环</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -509,10 +513,6 @@ Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t 
         <translation>有，但没有默认密钥环</translation>
     </message>
     <message>
-        <source>it is made when Quillo first stores its credential</source>
-        <translation>Quillo 首次保存凭据时会创建</translation>
-    </message>
-    <message>
         <source>locked</source>
         <translation>已锁定</translation>
     </message>
@@ -735,6 +735,10 @@ Dictation can&apos;t work here yet.
     <message>
         <source>%1; put aside because it couldn&apos;t be read: %2</source>
         <translation>%1；因无法读取已移开：%2</translation>
+    </message>
+    <message>
+        <source>it is made, with a password of yours, when tokens are bought; until then the credential is kept in memory and each start is a new device</source>
+        <translation>购买令牌时会用您设的密码创建；在此之前凭据只在内存中，每次启动都是新设备</translation>
     </message>
 </context>
 <context>

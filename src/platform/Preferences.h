@@ -6,8 +6,8 @@
 
 #include <optional>
 
-/// The per-user preferences store. Main thread only. A write is on disk when the call returns; a failing write is
-/// silent. Reads see what another program has written to the store meanwhile.
+/// The per-user preferences store. Main thread only, and never kept waiting. A write is on disk when the call returns,
+/// or else tried again with every later call. Reads see what another program has written to the store meanwhile.
 class Preferences {
 public:
     virtual ~Preferences() = default;
@@ -23,4 +23,7 @@ public:
     virtual void setString(const QString &key, const QString &value) = 0;
     virtual void setBoolean(const QString &key, bool value) = 0;
     virtual void remove(const QString &key) = 0;
+
+    /// False while a change is in memory only.
+    virtual bool isSaved() const = 0;
 };

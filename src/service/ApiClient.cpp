@@ -51,7 +51,8 @@ ApiError failure(const HttpResponse &response)
 
 ApiClient::ApiClient(Preferences &preferences, const PackagedInfo &info, SecretStore &secrets, const AIConsent &consent,
                      Clock &clock, std::chrono::milliseconds timeout)
-    : m_consent(consent),
+    : m_secrets(secrets),
+      m_consent(consent),
       m_transport(timeout),
       m_baseUrl(baseUrl(preferences, info)),
       m_device(secrets, preferences, clock,
@@ -113,8 +114,11 @@ QCoro::Task<QUrl> ApiClient::checkoutLink()
 {
     if (m_baseUrl) {
         co_await m_device.get(false);
+        if (!m_device.isKept() && co_await m_secrets.unlock()) {
+            co_await m_device.get(false);
+        }
         if (!m_device.isKept()) {
-            throw ApiError(u"keyring_locked"_s, u"Unlock the keyring first"_s, 0);
+            throw ApiError(u"keyring_locked"_s, ApiError::tr("Unlock the keyring first"), 0);
         }
     }
     Call call{u"/v1/checkout/link"_s, "POST"};

@@ -42,7 +42,8 @@ public:
 
     QCoro::Task<Balance> balance();
 
-    /// The page where tokens are bought; an error as long as the device they are for would be lost with this process.
+    /// The page where tokens are bought, for a person who asked for it: a locked keychain has the desktop ask for its
+    /// password. An error as long as the device they are for would be lost with this process.
     QCoro::Task<QUrl> checkoutLink();
 
 private:
@@ -60,6 +61,7 @@ private:
     QCoro::Task<Registration> registerDevice();
     QCoro::Task<std::optional<int64_t>> tokens(QString credential);
 
+    SecretStore &m_secrets;
     const AIConsent &m_consent;
     HttpTransport m_transport;
     std::optional<QUrl> m_baseUrl;

@@ -16,8 +16,10 @@ public:
     void setString(const QString &key, const QString &value) override { values[key] = value; }
     void setBoolean(const QString &key, bool value) override { values[key] = value; }
     void remove(const QString &key) override { values.remove(key); }
+    bool isSaved() const override { return !failsToWrite; }
 
     QMap<QString, QVariant> values;
+    bool failsToWrite = false;
 
 private:
     template <typename T> std::optional<T> typed(const QString &key) const

@@ -39,7 +39,14 @@ public:
         co_return isAvailable;
     }
 
+    QCoro::Task<bool> unlock() override
+    {
+        isAvailable = isAvailable || isUnlockedByUser;
+        co_return isAvailable;
+    }
+
     QMap<QPair<QString, QString>, QByteArray> items;
     bool isAvailable = true;
+    bool isUnlockedByUser = false; ///< when asked
     std::shared_ptr<QPromise<void>> answer; ///< reading waits for it, where there is one
 };

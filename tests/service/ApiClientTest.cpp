@@ -298,10 +298,12 @@ TEST_F(ApiClientTest, WhileTheKeychainIsOutOfReachARegistrationInMemoryServes)
     EXPECT_EQ(server.count("/v1/devices"), 1);
     expectError(errorOf(api.checkoutLink()), u"keyring_locked"_s, u"Unlock the keyring first"_s, 0);
     EXPECT_EQ(server.count("/v1/checkout/link"), 0) << "what is bought for it would be lost";
-    fake.secrets.isAvailable = true;
-    resultOf(api.balance());
+    fake.secrets.isUnlockedByUser = true;
+    reply.body = R"({"url":"https://pay.example/"})";
+    EXPECT_EQ(resultOf(api.checkoutLink()), QUrl(u"https://pay.example/"_s));
     EXPECT_EQ(fake.secrets.items.value(credentialItem), "dev.s3cret") << "kept as soon as it can be";
 
+    reply.body = R"({"balance":7})";
     fake.secrets.items.insert(credentialItem, "\xff\xfe");
     registration = R"({"deviceId":"dev","secret":"another"})";
     resultOf(client().balance());

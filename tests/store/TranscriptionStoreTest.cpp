@@ -75,6 +75,7 @@ TEST_F(TranscriptionStoreTest, TheFileIsTheDocumentedOne)
 {
     TranscriptionStore store(files, clock);
     EXPECT_EQ(files.writes, 0) << "a first run writes nothing";
+    EXPECT_EQ(store.examine().text, path);
     store.add(u"older"_s, std::nullopt);
     clock.advance(1999ms);
     store.add(u"line\n\r\"quoted\" \\ \t\u0001\u001f ünï/🎙"_s, u"work"_s);
@@ -148,6 +149,7 @@ TEST_F(TranscriptionStoreTest, WhatIsNoHistoryIsPutAsideBeforeAnotherBegins)
         listen(store);
         EXPECT_TRUE(store.items().isEmpty());
         EXPECT_EQ(store.notice(), u"The history can't be read: a new one begins, the old file is kept"_s);
+        EXPECT_EQ(store.examine().text, path + u" can't be read"_s);
         EXPECT_EQ(content(), json);
         clock.advance(1s);
         store.add(u"new"_s, std::nullopt);
@@ -156,6 +158,7 @@ TEST_F(TranscriptionStoreTest, WhatIsNoHistoryIsPutAsideBeforeAnotherBegins)
         EXPECT_EQ(TranscriptionStore(files, clock).items(), store.items());
         const QStringList damaged = folder.entryList({u"transcriptions.json.damaged-*"_s}, QDir::Files, QDir::Name);
         EXPECT_LE(damaged.size(), 5);
+        EXPECT_TRUE(store.examine().text.endsWith(damaged.last())) << store.examine().text.toStdString();
         EXPECT_EQ(contentOf(folder.filePath(damaged.last())), json);
     }
     EXPECT_TRUE(folder.exists(u"transcriptions.json.damaged-20260131T120013.000Z"_s));
@@ -228,6 +231,7 @@ TEST_F(TranscriptionStoreTest, WhatCannotBeSavedIsSaidOnceAndTriedAgain)
         EXPECT_EQ(files.writes, 3);
         writeFile(R"([{"id":"C","text":"theirs","timestamp":"t"}])");
         ASSERT_TRUE(QDir(files.applicationSupportFolder()).removeRecursively()) << "and the folder goes";
+        EXPECT_EQ(store.examine().text, folder.path() + u" can't be written: nothing new is kept"_s);
         files.failsToWrite = false;
         clock.advance(59s);
         EXPECT_EQ(content(), "no file");

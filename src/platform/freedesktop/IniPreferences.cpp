@@ -1,9 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/IniPreferences.h"
 
+#include <QFile>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Qt tells the rights of the user apart from those of the owner, who is the same.
+constexpr auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+
+} // namespace
 
 IniPreferences::IniPreferences(const QString &path) : m_settings(path, QSettings::IniFormat) {}
 
@@ -15,7 +23,7 @@ QString IniPreferences::defaultPath()
 Finding IniPreferences::examine() const
 {
     const QString subject = Finding::tr("Preferences");
-    m_settings.sync();
+    sync();
     const QString path = m_settings.fileName();
     switch (m_settings.status()) {
     case QSettings::AccessError:
@@ -67,17 +75,38 @@ void IniPreferences::setBoolean(const QString &key, bool value)
 void IniPreferences::remove(const QString &key)
 {
     m_settings.remove(key);
-    m_settings.sync();
+    sync();
+}
+
+bool IniPreferences::isSaved() const
+{
+    // A status stays what it once was; this one is new, and shares what is still to be written.
+    QSettings anew(m_settings.fileName(), QSettings::IniFormat);
+    sync();
+    anew.sync();
+    return anew.status() != QSettings::AccessError;
 }
 
 QVariant IniPreferences::value(const QString &key) const
 {
-    m_settings.sync();
+    sync();
     return m_settings.value(key);
 }
 
 void IniPreferences::write(const QString &key, const QVariant &value)
 {
     m_settings.setValue(key, value);
+    sync();
+}
+
+void IniPreferences::sync() const
+{
+    // QSettings would wait half a minute for a lock that a computer left which shares this folder, and forever for a
+    // program that hangs. The file is replaced in one step, so that nobody reads half of it without the lock, too.
+    QFile::remove(m_settings.fileName() + u".lock"_s);
     m_settings.sync();
+    QFile file(m_settings.fileName());
+    if (file.exists() && (file.permissions() & ~ownerOnly) != 0) {
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    }
 }

@@ -6,7 +6,7 @@
 
 #include <QSettings>
 
-/// Preferences in an INI file, group General. Byte values are written as @ByteArray(…).
+/// Preferences in an INI file, group General, which only the owner can read. Byte values are written as @ByteArray(…).
 class IniPreferences : public Preferences {
 public:
     /// `path` is the file; it and its folder are made at the first write.
@@ -25,10 +25,12 @@ public:
     void setString(const QString &key, const QString &value) override;
     void setBoolean(const QString &key, bool value) override;
     void remove(const QString &key) override;
+    bool isSaved() const override;
 
 private:
     QVariant value(const QString &key) const;
     void write(const QString &key, const QVariant &value);
+    void sync() const;
 
     mutable QSettings m_settings;
 };

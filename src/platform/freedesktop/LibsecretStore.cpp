@@ -6,8 +6,6 @@
 
 #include <libsecret/secret.h>
 
-#include <utility>
-
 namespace {
 
 const SecretSchema *schema()
@@ -43,30 +41,44 @@ std::optional<QByteArray> readNow(const QByteArray &service, const QByteArray &a
     return QByteArray(bytes, qsizetype(length));
 }
 
-/// The collection that new items go to. `Unknown`: there is no service to ask.
-enum class Collection { Unlocked, Locked, Absent, Unknown };
-
-Collection defaultCollection(GCancellable *end)
+/// The collection that new items go to; null without one and without a service.
+SecretCollection *defaultCollection(SecretService *service, GCancellable *end)
 {
-    startAnew();
-    g_autoptr(GError) error = nullptr;
-    g_autoptr(SecretService) service = secret_service_get_sync(SECRET_SERVICE_NONE, end, &error);
-    g_autoptr(SecretCollection) collection =
-        service == nullptr
-            ? nullptr
-            : secret_collection_for_alias_sync(service, SECRET_COLLECTION_DEFAULT, SECRET_COLLECTION_NONE, end, &error);
-    if (collection == nullptr) {
-        return error == nullptr ? Collection::Absent : Collection::Unknown;
-    }
-    return secret_collection_get_locked(collection) == TRUE ? Collection::Locked : Collection::Unlocked;
+    return service == nullptr ? nullptr
+                              : secret_collection_for_alias_sync(service, SECRET_COLLECTION_DEFAULT,
+                                                                 SECRET_COLLECTION_NONE, end, nullptr);
 }
 
 bool addNow(const QByteArray &service, const QByteArray &account, const QByteArray &secret, GCancellable *end)
 {
+    startAnew();
+    g_autoptr(SecretService) keyring = secret_service_get_sync(SECRET_SERVICE_NONE, end, nullptr);
+    g_autoptr(SecretCollection) collection = defaultCollection(keyring, end);
+    // To store where a collection is locked or missing is to ask for a password, in the middle of whatever is done.
+    if (collection == nullptr || secret_collection_get_locked(collection) == TRUE) {
+        return false;
+    }
     g_autoptr(SecretValue) value = secret_value_new(secret.constData(), secret.size(), "text/plain");
     return secret_password_store_binary_sync(schema(), SECRET_COLLECTION_DEFAULT, "Quillo device credential", value,
                                              end, nullptr, "service", service.constData(), "account",
                                              account.constData(), nullptr) == TRUE;
+}
+
+bool unlockNow(GCancellable *end)
+{
+    startAnew();
+    g_autoptr(SecretService) service = secret_service_get_sync(SECRET_SERVICE_NONE, end, nullptr);
+    g_autoptr(SecretCollection) collection = defaultCollection(service, end);
+    if (service == nullptr) {
+        return false;
+    }
+    if (collection == nullptr) {
+        g_autoptr(SecretCollection) made = secret_collection_create_sync(service, "Login", SECRET_COLLECTION_DEFAULT,
+                                                                         SECRET_COLLECTION_CREATE_NONE, end, nullptr);
+        return made != nullptr;
+    }
+    g_autoptr(GList) all = g_list_append(nullptr, collection);
+    return secret_service_unlock_sync(service, all, end, nullptr, nullptr) == 1;
 }
 
 bool removeNow(const QByteArray &service, const QByteArray &account, GCancellable *end)
@@ -100,13 +112,12 @@ QCoro::Task<std::optional<QByteArray>> LibsecretStore::read(QString service, QSt
 
 QCoro::Task<bool> LibsecretStore::add(QString service, QString account, QByteArray secret)
 {
-    // To store in a locked collection is to ask for its password, in the middle of whatever the user is doing.
-    const Collection collection = co_await QtConcurrent::run(&m_threads, defaultCollection, m_end.get());
-    const bool isRefused = collection == Collection::Absent && std::exchange(m_hasAskedForCollection, true);
-    if (collection == Collection::Locked || isRefused) {
-        co_return false;
-    }
     co_return co_await QtConcurrent::run(&m_threads, addNow, service.toUtf8(), account.toUtf8(), secret, m_end.get());
+}
+
+QCoro::Task<bool> LibsecretStore::unlock()
+{
+    co_return co_await QtConcurrent::run(&m_threads, unlockNow, m_end.get());
 }
 
 QCoro::Task<bool> LibsecretStore::remove(QString service, QString account)

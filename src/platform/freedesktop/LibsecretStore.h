@@ -10,7 +10,6 @@
 using GCancellable = struct _GCancellable;
 
 /// The desktop's Secret Service (GNOME Keyring, KWallet, KeePassXC) through libsecret, in the default collection.
-/// Where there is no such collection yet, the first `add` has the desktop make one, which asks for its password.
 /// The calls block in threads of their own: libsecret's answers to asynchronous ones need the event loop of GLib, which
 /// Qt may have been built or told to do without. Destruction ends what is still waited for, a password's prompt too.
 class LibsecretStore : public SecretStore {
@@ -20,6 +19,7 @@ public:
 
     QCoro::Task<std::optional<QByteArray>> read(QString service, QString account) override;
     QCoro::Task<bool> add(QString service, QString account, QByteArray secret) override;
+    QCoro::Task<bool> unlock() override;
     QCoro::Task<bool> remove(QString service, QString account) override;
 
 private:
@@ -29,5 +29,4 @@ private:
 
     std::unique_ptr<GCancellable, Unref> m_end;
     QThreadPool m_threads;
-    bool m_hasAskedForCollection = false;
 };

@@ -23,7 +23,8 @@ Finding examineSecretService()
     }
     if (collection == nullptr) {
         return {subject, Finding::Level::Note, Finding::tr("there, without a default keyring"),
-                Finding::tr("it is made when Quillo first stores its credential")};
+                Finding::tr("it is made, with a password of yours, when tokens are bought; until then the credential "
+                            "is kept in memory and each start is a new device")};
     }
     if (secret_collection_get_locked(collection) == TRUE) {
         return {

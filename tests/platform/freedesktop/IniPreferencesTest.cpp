@@ -3,10 +3,14 @@
 
 #include "support/Printing.h"
 
+#include <QElapsedTimer>
 #include <QFile>
+#include <QLockFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -93,6 +97,42 @@ TEST_F(IniPreferencesTest, WhatAnotherProgramWroteIsSeenAndKept)
     preferences.setString(u"mine"_s, u"3"_s);
     EXPECT_EQ(onDisk()->string(u"new"_s), u"2"_s);
     EXPECT_EQ(onDisk()->string(u"mine"_s), u"3"_s);
+}
+
+TEST_F(IniPreferencesTest, NobodyElsesLockIsWaitedForAndNobodyElseReads)
+{
+    const mode_t mask = ::umask(0);
+    const auto restore = qScopeGuard([mask] { ::umask(mask); });
+    QLockFile lock(path + u".lock"_s);
+    ASSERT_TRUE(lock.lock());
+    QElapsedTimer time;
+    time.start();
+    preferences.setString(u"key"_s, u"1"_s);
+    EXPECT_TRUE(preferences.isSaved());
+    EXPECT_LT(time.elapsed(), 1000);
+    EXPECT_EQ(onDisk()->string(u"key"_s), u"1"_s);
+    for (const mode_t mode : {0600U, 0644U}) {
+        struct stat status {};
+        ASSERT_EQ(::stat(qPrintable(path), &status), 0);
+        EXPECT_EQ(status.st_mode & 0777, 0600U);
+        ASSERT_EQ(::chmod(qPrintable(path), mode), 0);
+        preferences.setString(u"key"_s, u"2"_s);
+    }
+}
+
+TEST_F(IniPreferencesTest, WhatCannotBeSavedIsNotDropped)
+{
+    const QString blocked = folder.filePath(u"Quillo"_s);
+    QFile obstacle(blocked);
+    ASSERT_TRUE(obstacle.open(QIODevice::WriteOnly));
+    IniPreferences unsaved(blocked + u"/Quillo.conf"_s);
+    unsaved.setString(u"key"_s, u"1"_s);
+    EXPECT_FALSE(unsaved.isSaved());
+    EXPECT_EQ(unsaved.string(u"key"_s), u"1"_s);
+    ASSERT_TRUE(obstacle.remove());
+    EXPECT_TRUE(unsaved.isSaved());
+    path = blocked + u"/Quillo.conf"_s;
+    EXPECT_EQ(onDisk()->string(u"key"_s), u"1"_s);
 }
 
 TEST_F(IniPreferencesTest, GarbageHasNoValuesAndIsNoObstacle)

@@ -121,6 +121,27 @@ TEST_F(SecretStoreTest, ALockedKeyringIsLeftAsItIsAndNobodyIsAskedToUnlockIt)
     EXPECT_FALSE(resultOf(keychain.write(u"credential"_s, u"later"_s)));
     finish(keychain.remove(u"credential"_s));
     EXPECT_EQ(prompter.prompts(), 0);
+    EXPECT_FALSE(resultOf(store.unlock())) << "dismissed";
+    EXPECT_EQ(prompter.prompts(), 1);
     session->unlockKeyring();
+    EXPECT_TRUE(resultOf(store.unlock()));
     EXPECT_EQ(read(keychain, u"credential"_s), u"earlier"_s);
+    EXPECT_EQ(prompter.prompts(), 1);
+}
+
+TEST_F(SecretStoreTest, WithoutADefaultKeyringOneIsMadeOnlyWhenAskedFor)
+{
+    const Prompter prompter(session->busAddress());
+    const auto setDefault = [](const QString &collection) {
+        run(u"gdbus"_s, {u"call"_s, u"--session"_s, u"--dest"_s, u"org.freedesktop.secrets"_s, u"--object-path"_s,
+                         u"/org/freedesktop/secrets"_s, u"--method"_s, u"org.freedesktop.Secret.Service.SetAlias"_s,
+                         u"default"_s, collection});
+    };
+    setDefault(u"/"_s);
+    EXPECT_FALSE(resultOf(keychain.write(u"credential"_s, u"lost"_s)));
+    EXPECT_EQ(prompter.prompts(), 0);
+    EXPECT_FALSE(resultOf(store.unlock())) << "dismissed";
+    EXPECT_EQ(prompter.prompts(), 1);
+    setDefault(u"/org/freedesktop/secrets/collection/login"_s);
+    EXPECT_TRUE(resultOf(keychain.write(u"credential"_s, u"kept"_s)));
 }
