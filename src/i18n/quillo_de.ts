@@ -920,6 +920,10 @@ Hier kann noch nicht diktiert werden.
 <context>
     <name>LocalizedError</name>
     <message>
+        <source>There is no microphone. Plug one in.</source>
+        <translation>Es ist kein Mikrofon da. Bitte eines anschließen.</translation>
+    </message>
+    <message>
         <source>%1 is no sound file that can be read.</source>
         <translation>%1 ist keine lesbare Tondatei.</translation>
     </message>
@@ -1003,6 +1007,10 @@ Hier kann noch nicht diktiert werden.
 </context>
 <context>
     <name>Shortcut</name>
+    <message>
+        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
+        <translation>Das kann auf dieser Tastatur kein Tastenkürzel sein. Bitte ein anderes versuchen.</translation>
+    </message>
     <message>
         <source>Space</source>
         <translation>Leertaste</translation>

@@ -920,6 +920,10 @@ Dictation can&apos;t work here yet.
 <context>
     <name>LocalizedError</name>
     <message>
+        <source>There is no microphone. Plug one in.</source>
+        <translation>There is no microphone. Plug one in.</translation>
+    </message>
+    <message>
         <source>%1 is no sound file that can be read.</source>
         <translation>%1 is no sound file that can be read.</translation>
     </message>
@@ -1003,6 +1007,10 @@ Dictation can&apos;t work here yet.
 </context>
 <context>
     <name>Shortcut</name>
+    <message>
+        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
+        <translation>That can&apos;t be a shortcut on this keyboard. Try another one.</translation>
+    </message>
     <message>
         <source>Space</source>
         <translation>Space</translation>

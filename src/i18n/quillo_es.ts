@@ -920,6 +920,10 @@ El dictado todavía no puede funcionar aquí.
 <context>
     <name>LocalizedError</name>
     <message>
+        <source>There is no microphone. Plug one in.</source>
+        <translation>No hay ningún micrófono. Conecte uno.</translation>
+    </message>
+    <message>
         <source>%1 is no sound file that can be read.</source>
         <translation>%1 no es un archivo de sonido legible.</translation>
     </message>
@@ -1003,6 +1007,10 @@ El dictado todavía no puede funcionar aquí.
 </context>
 <context>
     <name>Shortcut</name>
+    <message>
+        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
+        <translation>Eso no puede ser un atajo en este teclado. Pruebe con otro.</translation>
+    </message>
     <message>
         <source>Space</source>
         <translation>Espacio</translation>

@@ -920,6 +920,10 @@ La dictée ne peut pas encore fonctionner ici.
 <context>
     <name>LocalizedError</name>
     <message>
+        <source>There is no microphone. Plug one in.</source>
+        <translation>Il n’y a pas de micro. Branchez-en un.</translation>
+    </message>
+    <message>
         <source>%1 is no sound file that can be read.</source>
         <translation>%1 n’est pas un fichier audio lisible.</translation>
     </message>
@@ -1003,6 +1007,10 @@ La dictée ne peut pas encore fonctionner ici.
 </context>
 <context>
     <name>Shortcut</name>
+    <message>
+        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
+        <translation>Cela ne peut pas être un raccourci sur ce clavier. Essayez-en un autre.</translation>
+    </message>
     <message>
         <source>Space</source>
         <translation>Espace</translation>

@@ -916,6 +916,10 @@ Dictation can&apos;t work here yet.
 <context>
     <name>LocalizedError</name>
     <message>
+        <source>There is no microphone. Plug one in.</source>
+        <translation>マイクがありません。接続してください。</translation>
+    </message>
+    <message>
         <source>%1 is no sound file that can be read.</source>
         <translation>%1は読み取れる音声ファイルではありません。</translation>
     </message>
@@ -997,6 +1001,10 @@ Dictation can&apos;t work here yet.
 </context>
 <context>
     <name>Shortcut</name>
+    <message>
+        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
+        <translation>このキーボードではショートカットにできません。別のものを試してください。</translation>
+    </message>
     <message>
         <source>Space</source>
         <translation>Space</translation>

@@ -920,6 +920,10 @@ O ditado ainda não pode funcionar aqui.
 <context>
     <name>LocalizedError</name>
     <message>
+        <source>There is no microphone. Plug one in.</source>
+        <translation>Não há microfone. Conecte um.</translation>
+    </message>
+    <message>
         <source>%1 is no sound file that can be read.</source>
         <translation>%1 não é um arquivo de som legível.</translation>
     </message>
@@ -1003,6 +1007,10 @@ O ditado ainda não pode funcionar aqui.
 </context>
 <context>
     <name>Shortcut</name>
+    <message>
+        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
+        <translation>Isso não pode ser um atalho neste teclado. Tente outro.</translation>
+    </message>
     <message>
         <source>Space</source>
         <translation>Espaço</translation>

@@ -916,6 +916,10 @@ Dictation can&apos;t work here yet.
 <context>
     <name>LocalizedError</name>
     <message>
+        <source>There is no microphone. Plug one in.</source>
+        <translation>没有麦克风。请接上一个。</translation>
+    </message>
+    <message>
         <source>%1 is no sound file that can be read.</source>
         <translation>%1 不是可读取的声音文件。</translation>
     </message>
@@ -997,6 +1001,10 @@ Dictation can&apos;t work here yet.
 </context>
 <context>
     <name>Shortcut</name>
+    <message>
+        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
+        <translation>在这个键盘上不能用作快捷键。请换一个。</translation>
+    </message>
     <message>
         <source>Space</source>
         <translation>空格</translation>

@@ -7,7 +7,8 @@
 #include <memory>
 
 /// One system-wide hot key that lives as long as the object. Main thread only. The handler gets true for press and
-/// false for release; it may destroy the object.
+/// false for release; it may destroy the object. It adds nothing to a registration but a name for those who own one:
+/// whoever holds it decides how long the key is taken from all other programs.
 class CarbonHotKey {
 public:
     /// Null when the combination is taken. `keyCode` and `modifiers` as in HotKeys::add.
@@ -18,12 +19,8 @@ public:
     CarbonHotKey &operator=(const CarbonHotKey &) = delete;
     ~CarbonHotKey() = default;
 
-    /// Unique within the process, from 1; a refused registration uses one up too.
-    uint32_t id() const { return m_id; }
-
 private:
-    CarbonHotKey(uint32_t id, std::unique_ptr<HotKeyRegistration> registration);
+    explicit CarbonHotKey(std::unique_ptr<HotKeyRegistration> registration);
 
-    uint32_t m_id;
     std::unique_ptr<HotKeyRegistration> m_registration;
 };

@@ -5,8 +5,6 @@
 
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 ShortcutRecorder::ShortcutRecorder(KeyMonitors &keyMonitors, Actions actions)
     : m_keyMonitors(keyMonitors), m_actions(std::move(actions))
 {

@@ -45,23 +45,6 @@ TEST_F(AudioRecorderTest, HandsOverOneFileWithItsLength)
     EXPECT_NE(microphone.path, first);
 }
 
-TEST_F(AudioRecorderTest, NothingHeardYieldsNothingAndLeavesNoFile)
-{
-    microphone.sound.clear();
-    recorder.start([] {});
-    EXPECT_FALSE(recorder.stop());
-    EXPECT_TRUE(files.recordings().isEmpty());
-}
-
-TEST_F(AudioRecorderTest, CancellingDeletesTheFile)
-{
-    recorder.cancel();
-    recorder.start([] {});
-    recorder.cancel();
-    EXPECT_TRUE(files.recordings().isEmpty());
-    EXPECT_EQ(recorder.recorder(), nullptr);
-}
-
 TEST_F(AudioRecorderTest, RefusalsReachTheCallerAndLeaveNothing)
 {
     microphone.refusesToRecord = true;

@@ -58,11 +58,9 @@ Speech Speech::goForward()
 }
 
 Desktop::Desktop(const DesktopOptions &options)
-    : m_backend(QStringLiteral(QUILLO_BACKEND_PROGRAM),
-                QStringList{u"--port"_s, u"0"_s, u"--database"_s, m_session.path(u"backend.db"_s)} +
-                    options.serverOptions,
-                m_session.environment()),
-      m_tap(listeningPort(m_backend)),
+    : m_server(options.server),
+      m_backend(m_server == nullptr ? startBackend(options.serverOptions) : nullptr),
+      m_tap(listeningPort()),
       m_hasConsent(options.hasConsent)
 {
     run(u"xsetroot"_s, {u"-solid"_s, u"#4d7ea8"_s}, environment());
@@ -75,10 +73,23 @@ Desktop::Desktop(const DesktopOptions &options)
     }
 }
 
-quint16 Desktop::listeningPort(ChildProcess &backend)
+std::unique_ptr<ChildProcess> Desktop::startBackend(const QStringList &options) const
 {
-    const QString line = backend.readLine();
-    return quint16(QUrl(line.section(u' ', -1)).port());
+    return std::make_unique<ChildProcess>(
+        QStringLiteral(QUILLO_BACKEND_PROGRAM),
+        QStringList{u"--port"_s, u"0"_s, u"--database"_s, m_session.path(u"backend.db"_s)} + options,
+        m_session.environment());
+}
+
+quint16 Desktop::listeningPort() const
+{
+    const QString address = m_server == nullptr ? m_backend->readLine().section(u' ', -1) : m_server->url();
+    return quint16(QUrl(address).port());
+}
+
+int Desktop::balanceRequests() const
+{
+    return m_server == nullptr ? m_tap.count(balanceRequest) : m_server->count("/v1/balance");
 }
 
 void Desktop::writePreferences() const
@@ -86,7 +97,7 @@ void Desktop::writePreferences() const
     QDir().mkpath(QFileInfo(preferencesFile()).path());
     QFile file(preferencesFile());
     require(file.open(QIODevice::WriteOnly), "the preferences can't be written");
-    file.write("[General]\napiURL=" + m_tap.url().toUtf8() + '\n');
+    file.write("[General]\napiURL=" + (m_server == nullptr ? m_tap.url() : m_server->url()).toUtf8() + '\n');
     if (m_hasConsent) {
         file.write("aiConsent=\"@ByteArray({\\\"version\\\":1,\\\"grantedAt\\\":790000000})\"\n");
     }
@@ -96,7 +107,8 @@ QProcessEnvironment Desktop::environment() const
 {
     QProcessEnvironment environment = m_session.environment(m_display.environment());
     environment.insert(u"PULSE_SERVER"_s, m_sound.address());
-    environment.insert(u"NO_AT_BRIDGE"_s, u"1"_s); // the editor needs no accessibility bus
+    environment.insert(u"NO_AT_BRIDGE"_s, u"1"_s);                     // the editor needs no accessibility bus
+    environment.insert(u"QT_LINUX_ACCESSIBILITY_ALWAYS_ON"_s, u"1"_s); // by which notices are read
     environment.remove(u"QT_QPA_PLATFORM"_s);
     return environment;
 }
@@ -133,11 +145,11 @@ void Desktop::startEditor()
 
 void Desktop::start()
 {
-    const int before = m_tap.count(balanceRequest);
+    const int before = balanceRequests();
     m_quillo = std::make_unique<ChildProcess>(QStringLiteral(QUILLO_PROGRAM), QStringList{}, environment());
     // With consent the first balance is asked for once the shortcuts are armed, else the consent window opened.
-    const bool isUp = await(
-        [&] { return m_hasConsent ? m_tap.count(balanceRequest) > before : !windowNamed(u"Quillo"_s).isEmpty(); });
+    const bool isUp =
+        await([&] { return m_hasConsent ? balanceRequests() > before : !windowNamed(u"Quillo"_s).isEmpty(); });
     require(isUp, "quillo did not start");
 }
 

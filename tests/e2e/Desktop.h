@@ -3,6 +3,7 @@
 
 #include "platform/x11/TestClient.h"
 #include "support/ChildProcess.h"
+#include "support/HttpServer.h"
 #include "support/Session.h"
 #include "support/SoundServer.h"
 #include "support/VirtualDisplay.h"
@@ -33,6 +34,8 @@ struct DesktopOptions {
     bool hasEditor = true;
     bool isStarted = true;
     QStringList serverOptions = {};
+    /// Takes the place of quillo-backend, which then does not run; it outlives the desktop.
+    const HttpServer *server = nullptr;
 };
 
 /// A whole desktop for one run: session, screen, virtual microphone, keyring, the server, the program, and a text
@@ -95,14 +98,17 @@ public:
     QProcessEnvironment environment() const;
     const Session &session() const { return m_session; }
     const WireTap &tap() const { return m_tap; }
-    ChildProcess &server() { return m_backend; }
+    ChildProcess &server() { return *m_backend; }
+    const SoundServer &sound() const { return m_sound; }
     const VirtualDisplay &display() const { return m_display; }
     QString preferencesFile() const { return m_session.configFolder() + QStringLiteral("/Quillo/Quillo.conf"); }
     TestClient &user() { return m_user; }
     ChildProcess &quillo() { return *m_quillo; }
 
 private:
-    static quint16 listeningPort(ChildProcess &backend);
+    std::unique_ptr<ChildProcess> startBackend(const QStringList &options) const;
+    quint16 listeningPort() const;
+    int balanceRequests() const;
     void writePreferences() const;
     void startEditor();
     QString savedText();
@@ -113,7 +119,8 @@ private:
     VirtualDisplay m_display{VirtualDisplay::WindowManager::Openbox};
     SoundServer m_sound;
     TestClient m_user{m_display};
-    ChildProcess m_backend;
+    const HttpServer *m_server;
+    std::unique_ptr<ChildProcess> m_backend;
     WireTap m_tap;
     std::unique_ptr<ChildProcess> m_editor;
     std::unique_ptr<ChildProcess> m_quillo;

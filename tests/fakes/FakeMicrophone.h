@@ -6,6 +6,7 @@
 
 #include <QFile>
 
+#include <coroutine>
 #include <utility>
 
 /// A microphone that "hears" for as long as the test says and writes the bytes the test gives.
@@ -16,13 +17,23 @@ public:
     Authorization authorizationStatus() const override { return authorization; }
     QCoro::Task<bool> requestAccess() override
     {
+        co_await Question{*this};
         authorization = answer ? Authorization::Authorized : Authorization::Denied;
         co_return answer;
     }
     std::unique_ptr<AudioFileRecorder> makeRecorder(const QString &path, const AudioSettings &settings) override;
 
+    /// The user answers the question.
+    void answerNow()
+    {
+        isAsking = false;
+        std::exchange(m_waiting, {}).resume();
+    }
+
     Authorization authorization = Authorization::Authorized;
     bool answer = true;
+    /// The question stands until `answerNow`.
+    bool isAsking = false;
     bool refusesToMake = false;
     bool refusesToRecord = false;
     QByteArray sound = "sound";
@@ -33,6 +44,17 @@ public:
     QString path;
     AudioSettings settings;
     Recorder *current = nullptr;
+
+private:
+    struct Question {
+        FakeMicrophone &microphone;
+
+        bool await_ready() const { return !microphone.isAsking; }
+        void await_suspend(std::coroutine_handle<> coroutine) const { microphone.m_waiting = coroutine; }
+        void await_resume() const {}
+    };
+
+    std::coroutine_handle<> m_waiting;
 };
 
 class FakeMicrophone::Recorder : public AudioFileRecorder {

@@ -25,6 +25,8 @@ const KeyEvent rightUpLeftStays = flags(61, EventFlag::option | EventFlag::leftO
 const KeyEvent leftShiftDown = flags(56, EventFlag::option | EventFlag::rightOption | EventFlag::shift);
 const KeyEvent aDown = {KeyEvent::Type::KeyDown, 0, EventFlag::option | EventFlag::rightOption, std::nullopt};
 
+const KeyEvent unknownDown = {KeyEvent::Type::KeyDown, KeyCode::unknown, 0, std::nullopt, false};
+
 class ShortcutMonitorTest : public ::testing::Test {
 protected:
     /// What was reported so far: "p" pressed, "r" released, "i" interrupted.
@@ -50,6 +52,7 @@ TEST_F(ShortcutMonitorTest, SequencesOfASingleModifierKey)
         {"tap", {rightOptionDown, rightOptionUp}, "pr"},
         {"no change of its own bit", {rightOptionDown, rightOptionDown, rightOptionUp, rightOptionUp}, "pr"},
         {"held, then a letter", {rightOptionDown, aDown, aDown, rightOptionUp}, "pi"},
+        {"held, then a key without a code", {rightOptionDown, unknownDown, rightOptionUp}, "pi"},
         {"held, then another modifier", {rightOptionDown, leftShiftDown, rightOptionUp}, "pi"},
         {"held, then its twin", {rightOptionDown, rightWithLeftOption, leftOptionDown, rightUpLeftStays}, "pi"},
         {"twin alone", {leftOptionDown, flags(58, 0)}, ""},
@@ -65,6 +68,27 @@ TEST_F(ShortcutMonitorTest, SequencesOfASingleModifierKey)
             keyMonitors.send(event);
         }
         EXPECT_EQ(take(), row.expected) << row.what;
+    }
+}
+
+TEST_F(ShortcutMonitorTest, EachSingleKeyIsTheOneOnItsSide)
+{
+    const struct {
+        ModifierKey key;
+        KeyEvent down;
+        KeyEvent twin;
+    } cases[] = {{ModifierKey::RightOption, flags(61, 0x80040), flags(58, 0x80020)},
+                 {ModifierKey::RightCommand, flags(54, 0x100010), flags(55, 0x100008)},
+                 {ModifierKey::RightControl, flags(62, 0x42000), flags(59, 0x40001)},
+                 {ModifierKey::Fn, flags(63, 0x800000), flags(57, 0x10000)}};
+    for (const auto &[key, down, twin] : cases) {
+        monitor.activate(Shortcut::modifier(key));
+        keyMonitors.send(twin);
+        keyMonitors.send(flags(twin.keyCode, 0));
+        EXPECT_EQ(take(), "") << int(key);
+        keyMonitors.send(down);
+        keyMonitors.send(flags(down.keyCode, 0));
+        EXPECT_EQ(take(), "pr") << int(key);
     }
 }
 
@@ -104,16 +128,4 @@ TEST_F(ShortcutMonitorTest, ACombinationIsAHotKeyAndReplacesWhatWasArmed)
     EXPECT_FALSE(monitor.activate(space));
     keyMonitors.send(rightOptionDown);
     EXPECT_EQ(take(), "");
-}
-
-TEST(CarbonHotKeyTest, IdsAreNeverReusedAndADuplicateIsRefused)
-{
-    FakeHotKeys hotKeys;
-    const auto first = CarbonHotKey::create(hotKeys, 49, 0, [](bool) {});
-    ASSERT_TRUE(first);
-    EXPECT_FALSE(CarbonHotKey::create(hotKeys, 49, 0, [](bool) {}));
-    const auto third = CarbonHotKey::create(hotKeys, 50, 0, [](bool) {});
-    ASSERT_TRUE(third);
-    EXPECT_EQ(third->id(), first->id() + 2);
-    EXPECT_TRUE(hotKeys.press(49, 0));
 }

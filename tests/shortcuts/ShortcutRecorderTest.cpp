@@ -15,10 +15,10 @@ constexpr uint32_t controlOption = EventFlag::control | EventFlag::option;
 
 class ShortcutRecorderTest : public ::testing::Test {
 protected:
-    void press(uint16_t keyCode, uint32_t flags, const QString &characters) const
+    void press(uint16_t keyCode, uint32_t flags, const QString &characters, bool canBeHotKey = true) const
     {
         for (const auto *handler : std::list(monitors.local)) {
-            (*handler)({KeyEvent::Type::KeyDown, keyCode, flags, characters});
+            (*handler)({KeyEvent::Type::KeyDown, keyCode, flags, characters, canBeHotKey});
         }
     }
 
@@ -41,6 +41,17 @@ TEST_F(ShortcutRecorderTest, RecordsTheFirstPressThatCanBeAShortcutWithTheShortc
     press(40, 0, u"k"_s);
     EXPECT_EQ(recorder.rejection(), message(Shortcut::Rejection::NeedsModifier));
     press(KeyCode::escape, EventFlag::command, {});
+    EXPECT_EQ(recorder.rejection(), message(Shortcut::Rejection::EscapeReserved));
+    const auto notHere = u"That can't be a shortcut on this keyboard. Try another one."_s;
+    press(KeyCode::unknown, 0, {}, false); // Print Screen
+    EXPECT_EQ(recorder.rejection(), notHere);
+    press(114, EventFlag::shift, {}); // Insert, which has no name
+    EXPECT_EQ(recorder.rejection(), message(Shortcut::Rejection::NeedsModifier));
+    press(114, EventFlag::control, {});
+    EXPECT_EQ(recorder.rejection(), notHere);
+    press(40, EventFlag::control, u"k"_s, false); // with Alt Gr
+    EXPECT_EQ(recorder.rejection(), notHere);
+    press(KeyCode::escape, 0x20000, {}, false);
     EXPECT_EQ(recorder.rejection(), message(Shortcut::Rejection::EscapeReserved));
     EXPECT_TRUE(recorder.isRecording());
     EXPECT_EQ(log, QStringList({u"off"_s}));

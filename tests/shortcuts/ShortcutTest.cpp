@@ -54,6 +54,59 @@ TEST(ShortcutTest, KeyPressesBecomeShortcutsOrAreRefused)
     EXPECT_EQ(message(Rejection::NeedsModifier), u"Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn't block typing."_s);
 }
 
+TEST(ShortcutTest, KeysHaveTheirNamesAndPlaces)
+{
+    const struct {
+        uint16_t keyCode;
+        QString name;
+        int evdev; // of linux/input-event-codes.h
+    } keys[] = {
+        {122, u"F1"_s, 59},         {120, u"F2"_s, 60},    {99, u"F3"_s, 61},    {118, u"F4"_s, 62},
+        {96, u"F5"_s, 63},          {97, u"F6"_s, 64},     {98, u"F7"_s, 65},    {100, u"F8"_s, 66},
+        {101, u"F9"_s, 67},         {109, u"F10"_s, 68},   {103, u"F11"_s, 87},  {111, u"F12"_s, 88},
+        {105, u"F13"_s, 183},       {107, u"F14"_s, 184},  {113, u"F15"_s, 185}, {106, u"F16"_s, 186},
+        {64, u"F17"_s, 187},        {79, u"F18"_s, 188},   {80, u"F19"_s, 189},  {90, u"F20"_s, 190},
+        {49, u"Space"_s, 57},       {36, u"Return"_s, 28}, {48, u"Tab"_s, 15},   {51, u"Delete"_s, 14},
+        {117, u"⌦"_s, 111},         {123, u"←"_s, 105},    {124, u"→"_s, 106},   {126, u"↑"_s, 103},
+        {125, u"↓"_s, 108},         {115, u"Home"_s, 102}, {119, u"End"_s, 107}, {116, u"Page Up"_s, 104},
+        {121, u"Page Down"_s, 109}, {76, u"Enter"_s, 96},
+    };
+    for (const auto &[keyCode, name, evdev] : keys) {
+        const auto recorded = Shortcut::recorded({KeyEvent::Type::KeyDown, keyCode, EventFlag::control, u"x"_s});
+        EXPECT_EQ(recorded, (std::variant<Shortcut, Shortcut::Rejection>(Shortcut::combo(keyCode, 0x1000, name))));
+        EXPECT_EQ(KeyCode::toEvdev(keyCode), evdev) << name.toStdString();
+        EXPECT_EQ(KeyCode::fromEvdev(uint16_t(evdev)), keyCode) << name.toStdString();
+    }
+    // The keys that type, in rows of a keyboard, by their virtual codes and the first key's evdev code.
+    const std::pair<int, std::vector<uint16_t>> rows[] = {
+        {2, {18, 19, 20, 21, 23, 22, 26, 28, 25, 29, 27, 24}},      // 1 to =
+        {16, {12, 13, 14, 15, 17, 16, 32, 34, 31, 35, 33, 30}},     // Q to ]
+        {30, {0, 1, 2, 3, 5, 4, 38, 40, 37, 41, 39, 50}},           // A to `
+        {44, {6, 7, 8, 9, 11, 45, 46, 43, 47, 44}},                 // Z to /
+        {71, {89, 91, 92, 78, 86, 87, 88, 69, 83, 84, 85, 82, 65}}, // the keypad
+    };
+    for (const auto &[start, row] : rows) {
+        for (size_t place = 0; place < row.size(); ++place) {
+            EXPECT_EQ(KeyCode::toEvdev(row[place]), start + int(place));
+        }
+    }
+}
+
+TEST(ShortcutTest, ChoicesHaveTheirStoredNamesAndLabelsInOrder)
+{
+    QStringList choices;
+    for (const ModifierKeyInfo &key : modifierKeys()) {
+        choices.append(u"%1: %2"_s.arg(key.rawValue, key.label));
+    }
+    for (const TriggerModeInfo &mode : triggerModes()) {
+        choices.append(u"%1: %2"_s.arg(mode.rawValue, mode.label));
+    }
+    EXPECT_EQ(choices, (QStringList{u"rightOption: Right ⌥ Option"_s, u"rightCommand: Right ⌘ Command"_s,
+                                    u"rightControl: Right ⌃ Control"_s, u"fn: Fn (🌐)"_s,
+                                    u"both: Hold to talk, or tap for hands-free"_s, u"hold: Hold to talk only"_s,
+                                    u"toggle: Tap to start and stop"_s}));
+}
+
 TEST(ShortcutTest, MenuEquivalentsExistForKeysAMenuCanShow)
 {
     struct Row {

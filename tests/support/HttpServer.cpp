@@ -59,13 +59,20 @@ void HttpServer::read(QTcpSocket &socket, QByteArray &received)
     request.body = received.sliced(headEnd + 4, length);
     received.remove(0, headEnd + 4 + length);
     m_requests.append(request);
-    answer(socket, request);
+    answer(socket, onRequest(request));
 }
 
-void HttpServer::answer(QTcpSocket &socket, const Request &request)
+void HttpServer::answerHeld(const Response &response)
 {
-    const Response response = onRequest(request);
+    answer(*m_held.takeFirst(), response);
+}
+
+void HttpServer::answer(QTcpSocket &socket, const Response &response)
+{
     switch (response.ending) {
+    case Response::Ending::Held:
+        m_held.append(&socket);
+        return;
     case Response::Ending::NeverReply:
         return;
     case Response::Ending::CloseWithoutReply:

@@ -21,7 +21,7 @@ public:
     };
 
     struct Response {
-        enum class Ending { Complete, ByteByByte, CutInBody, CloseWithoutReply, NeverReply };
+        enum class Ending { Complete, ByteByByte, CutInBody, CloseWithoutReply, NeverReply, Held };
 
         int status = 200;
         QByteArray body = {};
@@ -40,11 +40,16 @@ public:
 
     std::function<Response(const Request &)> onRequest;
 
+    /// Requests whose answer is held back, and the answer to the first of them.
+    qsizetype heldCount() const { return m_held.size(); }
+    void answerHeld(const Response &response);
+
 private:
     void accept();
     void read(QTcpSocket &socket, QByteArray &received);
-    void answer(QTcpSocket &socket, const Request &request);
+    void answer(QTcpSocket &socket, const Response &response);
 
     QTcpServer m_server;
     QList<Request> m_requests;
+    QList<QTcpSocket *> m_held;
 };

@@ -90,6 +90,11 @@ QByteArray SoundServer::control(const QStringList &arguments) const
     return run(u"pactl"_s, arguments, environment());
 }
 
+void SoundServer::addOutput() const
+{
+    control(u"load-module "_s.append(loadOutput).split(u' '));
+}
+
 void SoundServer::addMicrophone() const
 {
     control(u"load-module "_s.append(loadMicrophone).split(u' '));

@@ -28,6 +28,7 @@ public:
     /// Runs pactl, for example {"list", "short", "source-outputs"}, and returns what it prints.
     QByteArray control(const QStringList &arguments) const;
 
+    void addOutput() const;
     void addMicrophone() const;
     void removeMicrophone() const;
 

@@ -39,19 +39,31 @@ void DefaultSource::ask(pa_context *context)
 void DefaultSource::onServer(pa_context *context, const pa_server_info *server, void *self)
 {
     if (server == nullptr || server->default_source_name == nullptr || *server->default_source_name == '\0') {
-        static_cast<DefaultSource *>(self)->set({});
+        onSource(context, nullptr, -1, self);
         return;
     }
     release(pa_context_get_source_info_by_name(context, server->default_source_name, onSource, self));
 }
 
-void DefaultSource::onSource(pa_context * /*context*/, const pa_source_info *source, int end, void *self)
+void DefaultSource::onSource(pa_context *context, const pa_source_info *source, int end, void *self)
 {
-    if (source != nullptr) {
-        const bool monitor = source->monitor_of_sink != PA_INVALID_INDEX;
-        static_cast<DefaultSource *>(self)->set(monitor ? QByteArray() : QByteArray(source->name));
-    } else if (end < 0) { // no such source
-        static_cast<DefaultSource *>(self)->set({});
+    if (source != nullptr && source->monitor_of_sink == PA_INVALID_INDEX) {
+        static_cast<DefaultSource *>(self)->set(source->name);
+    } else if (source != nullptr || end < 0) { // a monitor, or no such source
+        static_cast<DefaultSource *>(self)->m_candidate.clear();
+        release(pa_context_get_source_info_list(context, onCandidate, self));
+    }
+}
+
+/// A server whose default went away falls back to the monitor of an output, and may stay there though a microphone has
+/// come: then any microphone is better.
+void DefaultSource::onCandidate(pa_context * /*context*/, const pa_source_info *source, int end, void *self)
+{
+    auto &candidate = static_cast<DefaultSource *>(self)->m_candidate;
+    if (end != 0) {
+        static_cast<DefaultSource *>(self)->set(candidate);
+    } else if (candidate.isEmpty() && source->monitor_of_sink == PA_INVALID_INDEX) {
+        candidate = source->name;
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/audio/PulseMicrophone.h"
 
+#include "platform/LocalizedError.h"
 #include "platform/audio/PulseContext.h"
 #include "platform/audio/PulseRecorder.h"
 #include "platform/audio/Reconnection.h"
@@ -18,12 +19,7 @@ PulseMicrophone::~PulseMicrophone() = default;
 
 Microphone::Authorization PulseMicrophone::authorizationStatus() const
 {
-    if (m_context->isDenied()) {
-        return Authorization::Denied;
-    }
-    const bool hasNoSource =
-        m_context->connection() == PulseContext::Connection::Ready && m_context->source() == PulseContext::Source::None;
-    return hasNoSource ? Authorization::Restricted : Authorization::Authorized;
+    return m_context->isDenied() ? Authorization::Denied : Authorization::Authorized;
 }
 
 QCoro::Task<bool> PulseMicrophone::requestAccess()
@@ -33,5 +29,9 @@ QCoro::Task<bool> PulseMicrophone::requestAccess()
 
 std::unique_ptr<AudioFileRecorder> PulseMicrophone::makeRecorder(const QString &path, const AudioSettings &settings)
 {
+    if (m_context->connection() == PulseContext::Connection::Ready &&
+        m_context->source() == PulseContext::Source::None) {
+        throw LocalizedError(LocalizedError::tr("There is no microphone. Plug one in."));
+    }
     return std::make_unique<PulseRecorder>(*m_context, m_clock, path, settings);
 }

@@ -18,12 +18,13 @@ public:
     ~PulseMicrophone() override;
 
     /// Denied when the server refuses this user, as it does to a program whose sandbox or whose user said no;
-    /// Restricted when it has nothing to record from; Authorized otherwise, also without a server, which may come.
+    /// Authorized otherwise, also without a server or a microphone, which may come.
     Authorization authorizationStatus() const override;
 
     /// The desktop has no question to ask: answers with the status as it is.
     QCoro::Task<bool> requestAccess() override;
 
+    /// Throws also when the server is known to have no microphone.
     std::unique_ptr<AudioFileRecorder> makeRecorder(const QString &path, const AudioSettings &settings) override;
 
 private:

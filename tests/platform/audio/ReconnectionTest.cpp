@@ -27,15 +27,22 @@ protected:
     FakeClock m_clock;
 };
 
-TEST_F(ReconnectionTest, FollowsTheSocketOfAServerThatComesBack)
+TEST_F(ReconnectionTest, FollowsTheSocketOfAServerThatComesBackAndRecordsAtOnce)
 {
-    const PulseMicrophone microphone(m_clock, m_server.address());
-    EXPECT_TRUE(await([&] { return isConnected(m_server); }));
-    m_server.kill();
-    EXPECT_TRUE(await([&] { return m_clock.pending() > 0; })); // the loss is known
-    m_server.start();
-    EXPECT_TRUE(await([&] { return isConnected(m_server); }));
-    EXPECT_TRUE(await([&] { return m_clock.pending() == 0; }));
+    PulseMicrophone microphone(m_clock, m_server.address());
+    for (const bool isAwaited : {true, false}) {
+        EXPECT_TRUE(await([&] { return isConnected(m_server); }));
+        m_server.kill();
+        EXPECT_TRUE(await([&] { return m_clock.pending() > 0; })); // the loss is known
+        m_server.start();
+        EXPECT_TRUE(!isAwaited || await([&] { return isConnected(m_server); }));
+        const QTemporaryDir folder;
+        const auto recorder = microphone.makeRecorder(folder.filePath(u"speech.m4a"_s), speechSettings());
+        EXPECT_TRUE(recorder->record());
+        EXPECT_TRUE(await([&] { return recorder->currentTime() > 0; }));
+        recorder->stop();
+        EXPECT_EQ(m_clock.pending(), 0);
+    }
 }
 
 TEST_F(ReconnectionTest, TriesAgainInTimeWhereThereIsNoFolderToWatch)
@@ -49,22 +56,6 @@ TEST_F(ReconnectionTest, TriesAgainInTimeWhereThereIsNoFolderToWatch)
     EXPECT_FALSE(isConnected(m_server));
     m_clock.advance(100ms);
     EXPECT_TRUE(await([&] { return isConnected(m_server); }));
-}
-
-TEST_F(ReconnectionTest, ARecordingAfterTheServerCameBackNeedsNoWaiting)
-{
-    PulseMicrophone microphone(m_clock, m_server.address());
-    EXPECT_TRUE(await([&] { return isConnected(m_server); }));
-    m_server.kill();
-    EXPECT_TRUE(await([&] { return m_clock.pending() > 0; }));
-    m_server.start();
-
-    const QTemporaryDir folder;
-    const auto recorder = microphone.makeRecorder(folder.filePath(u"speech.m4a"_s), speechSettings());
-    EXPECT_TRUE(recorder->record());
-    EXPECT_TRUE(await([&] { return recorder->currentTime() > 0; }));
-    recorder->stop();
-    EXPECT_EQ(m_clock.pending(), 0);
 }
 
 TEST(Reconnection, FindsTheFolderOfALocalSocket)

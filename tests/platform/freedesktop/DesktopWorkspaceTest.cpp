@@ -44,35 +44,31 @@ TEST(DesktopWorkspaceTest, PrivacySettingsAreAPageOfTheDesktopsOwnProgram)
     const struct {
         QByteArray desktop;
         Pane pane;
-        QString program;
-        QByteArray asked;
+        QByteArray asked; // nothing where it has no such page
     } cases[] = {
-        {"GNOME", Pane::Microphone, u"gnome-control-center"_s, "gnome-control-center microphone"},
-        {"ubuntu:GNOME", Pane::Accessibility, u"gnome-control-center"_s, "gnome-control-center universal-access"},
-        {"KDE", Pane::Microphone, u"systemsettings"_s, "systemsettings kcm_pulseaudio"},
-        {"KDE", Pane::Accessibility, u"systemsettings"_s, "systemsettings kcm_access"},
-        {"XFCE", Pane::Microphone, u"pavucontrol"_s, "pavucontrol --tab=4"},
+        {"ubuntu:GNOME", Pane::Accessibility, "gnome-control-center universal-access"},
+        {"KDE", Pane::Microphone, "systemsettings kcm_pulseaudio"},
+        {"XFCE", Pane::Microphone, "pavucontrol --tab=4"},
+        {"XFCE", Pane::Accessibility, ""},
+        {"Unknown", Pane::Microphone, ""},
     };
     const auto restore = qScopeGuard([path = qgetenv("PATH"), desktop = qgetenv("XDG_CURRENT_DESKTOP")] {
         qputenv("PATH", path);
         qputenv("XDG_CURRENT_DESKTOP", desktop);
     });
     DesktopWorkspace workspace;
-    for (const auto &[desktop, pane, program, asked] : cases) {
+    for (const auto &[desktop, pane, asked] : cases) {
         const QTemporaryDir folder;
         qputenv("PATH", QFile::encodeName(folder.path()));
         qputenv("XDG_CURRENT_DESKTOP", desktop);
-        EXPECT_FALSE(workspace.openPrivacySettings(pane)) << asked.constData() << " is not installed";
-        install(folder.filePath(program));
-        EXPECT_TRUE(workspace.openPrivacySettings(pane));
-        EXPECT_EQ(awaitLine(folder.filePath(program + u".asked"_s)), asked);
-
-        qputenv("XDG_CURRENT_DESKTOP", "Unknown");
-        EXPECT_FALSE(workspace.openPrivacySettings(pane));
+        EXPECT_FALSE(workspace.openPrivacySettings(pane)) << "not installed";
+        for (const QString &program : {u"gnome-control-center"_s, u"systemsettings"_s, u"pavucontrol"_s}) {
+            install(folder.filePath(program));
+        }
+        EXPECT_EQ(workspace.openPrivacySettings(pane), !asked.isEmpty()) << desktop.constData();
+        if (!asked.isEmpty()) {
+            const QString program = QString::fromLatin1(asked.first(asked.indexOf(' ')));
+            EXPECT_EQ(awaitLine(folder.filePath(program + u".asked"_s)), asked);
+        }
     }
-    const QTemporaryDir folder;
-    qputenv("PATH", QFile::encodeName(folder.path()));
-    qputenv("XDG_CURRENT_DESKTOP", "XFCE");
-    install(folder.filePath(u"pavucontrol"_s));
-    EXPECT_FALSE(workspace.openPrivacySettings(Pane::Accessibility)) << "has no such page";
 }

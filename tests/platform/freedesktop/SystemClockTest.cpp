@@ -9,30 +9,25 @@
 
 using namespace std::chrono_literals;
 
-TEST(SystemClockTest, TimersFireOnceAndAgainAndAgain)
+TEST(SystemClockTest, TimersFireOnceOrAgainAndAgainUntilTheyAreDestroyed)
 {
     SystemClock clock;
     int once = 0;
     int often = 0;
+    int never = 0;
+    bool woken = false;
     const auto single = clock.after(1ms, [&] { ++once; });
     const auto repeated = clock.every(1ms, [&] { ++often; });
-    EXPECT_EQ(once + often, 0) << "not from within the call";
-    EXPECT_TRUE(await([&] { return once > 0 && often > 3; }));
+    clock.after(1ms, [&] { ++never; }).reset();
+    clock.every(1ms, [&] { ++never; }).reset();
+    const auto sleeper = [](SystemClock &time, bool &done) -> QCoro::Task<void> {
+        co_await time.sleep(1ms);
+        done = true;
+    }(clock, woken);
+    EXPECT_EQ(once + often + (woken ? 1 : 0), 0) << "not from within the call";
+    EXPECT_TRUE(await([&] { return once > 0 && often > 3 && woken; }));
     EXPECT_EQ(once, 1);
-}
-
-TEST(SystemClockTest, DestroyedTimerIsSilent)
-{
-    SystemClock clock;
-    int calls = 0;
-    auto single = clock.after(1ms, [&] { ++calls; });
-    auto repeated = clock.every(1ms, [&] { ++calls; });
-    single.reset();
-    repeated.reset();
-    bool later = false;
-    const auto end = clock.after(5ms, [&] { later = true; });
-    EXPECT_TRUE(await([&] { return later; }));
-    EXPECT_EQ(calls, 0);
+    EXPECT_EQ(never, 0);
 }
 
 TEST(SystemClockTest, CallbackMayDestroyItsOwnTimer)
@@ -53,16 +48,4 @@ TEST(SystemClockTest, CallbackMayDestroyItsOwnTimer)
         EXPECT_EQ(calls, 1);
         EXPECT_EQ(kept.use_count(), 1) << "the callback is gone";
     }
-}
-
-TEST(SystemClockTest, SleepSuspendsTheCoroutineAlone)
-{
-    SystemClock clock;
-    bool woken = false;
-    const auto sleeper = [](SystemClock &time, bool &done) -> QCoro::Task<void> {
-        co_await time.sleep(1ms);
-        done = true;
-    }(clock, woken);
-    EXPECT_FALSE(woken);
-    EXPECT_TRUE(await([&] { return woken; }));
 }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/XdgFiles.h"
 
-#include "SaverContent.h"
 #include "support/Await.h"
 #include "support/ChildProcess.h"
 #include "support/Printing.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -17,6 +17,7 @@
 #include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
 
@@ -42,6 +43,26 @@ void put(const QString &path, const QByteArray &content)
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(content);
+}
+
+constexpr qsizetype shorter = 2'000'000;
+const QByteArray first(shorter, 'a');
+const QByteArray second(shorter + 1'000'000, 'b');
+
+/// A process that saves the two contents in turn, in many pieces, until it is killed.
+pid_t startSaver(const QString &path)
+{
+    const pid_t saver = ::fork();
+    for (XdgFiles files; saver == 0;) {
+        for (const QByteArrayView content : {first, second}) {
+            QList<QByteArrayView> pieces;
+            for (qsizetype start = 0; start < content.size(); start += 10'000) {
+                pieces.append(content.sliced(start, 10'000));
+            }
+            files.replace(path, pieces);
+        }
+    }
+    return saver;
 }
 
 class XdgFilesTest : public ::testing::Test {
@@ -78,18 +99,17 @@ TEST_F(XdgFilesTest, FilesAndFoldersAreTheOwnersAlone)
 TEST_F(XdgFilesTest, FailedSaveKeepsTheOldFileAndLeavesNothing)
 {
     ASSERT_FALSE(files.replace(path, {"old"}));
-    const auto tooLong = SaverContent::first();
     {
         rlimit limit{};
         ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
-        const rlimit small{rlim_t(tooLong.size() / 2), limit.rlim_max};
+        const rlimit small{rlim_t(first.size() / 2), limit.rlim_max};
         auto *const handler = std::signal(SIGXFSZ, SIG_IGN);
         const auto restore = qScopeGuard([&] {
             ::setrlimit(RLIMIT_FSIZE, &limit);
             std::signal(SIGXFSZ, handler);
         });
         ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-        EXPECT_EQ(files.replace(path, {tooLong}), std::errc::file_too_large) << "no more room, as on a full disk";
+        EXPECT_EQ(files.replace(path, {first}), std::errc::file_too_large) << "no more room, as on a full disk";
     }
     EXPECT_EQ(files.replace(path + u"/below"_s, {"new"}), std::errc::not_a_directory);
     EXPECT_EQ(files.replace(folder.filePath(u"missing/file"_s), {"new"}), std::errc::no_such_file_or_directory);
@@ -103,22 +123,17 @@ TEST_F(XdgFilesTest, FailedSaveKeepsTheOldFileAndLeavesNothing)
 
 TEST_F(XdgFilesTest, FileIsOneOfTheContentsWhenTheProgramIsKilledDuringASave)
 {
-    const auto first = SaverContent::first();
-    const auto second = SaverContent::second();
+    ASSERT_FALSE(files.replace(path, {first}));
     for (int round = 0; round < 12; ++round) {
-        ChildProcess saver(QStringLiteral(QUILLO_SAVER_PROGRAM), {path});
-        for (int saves = 0; saves <= round % 2; ++saves) {
-            ASSERT_EQ(saver.readLine(), u"saved"_s);
-        }
-        const qsizetype reached = SaverContent::shorter * round / 12 + 1;
+        const pid_t saver = startSaver(path);
         struct stat status {};
-        const auto temporary = QFile::encodeName(path + u".new-%1"_s.arg(saver.pid()));
-        QDeadlineTimer deadline(std::chrono::seconds(20));
-        while (::stat(temporary.constData(), &status) != 0 || status.st_size < reached) {
+        const auto temporary = QFile::encodeName(path + u".new-%1"_s.arg(saver));
+        const QDeadlineTimer deadline(std::chrono::seconds(20));
+        while (::stat(temporary.constData(), &status) != 0 || status.st_size < shorter * round / 12 + 1) {
             ASSERT_FALSE(deadline.hasExpired()) << "no save under way";
         }
-        ASSERT_EQ(::kill(pid_t(saver.pid()), SIGKILL), 0);
-        ASSERT_EQ(saver.wait(), -1) << "killed";
+        ASSERT_EQ(::kill(saver, SIGKILL), 0);
+        ASSERT_EQ(::waitpid(saver, nullptr, 0), saver);
         const auto content = contentOf(path);
         ASSERT_TRUE(content == first || content == second) << content.size() << " bytes, round " << round;
     }
