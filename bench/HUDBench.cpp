@@ -3,7 +3,7 @@
 #include "platform/StatusPanel.h"
 #include "platform/freedesktop/SystemClock.h"
 #include "platform/x11/X11Backend.h"
-#include "platform/x11/connection/Xcb.h"
+#include "platform/x11/connection/XcbPtr.h"
 #include "platform/x11/windows/TerminalClasses.h"
 #include "support/Await.h"
 #include "support/ChildProcess.h"

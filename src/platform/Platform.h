@@ -19,7 +19,8 @@ class StatusItem;
 class StatusPanels;
 class Workspace;
 
-/// The services of one desktop, chosen once at start. Whoever makes it keeps them alive.
+/// The services of one desktop, chosen once at start. Whoever makes it keeps them alive. Each is an interface although
+/// a desktop has one of it: another desktop has its own, and a test puts a fake in its place.
 struct Platform {
     Accessibility &accessibility;
     Application &application;

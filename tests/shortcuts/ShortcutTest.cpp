@@ -96,10 +96,10 @@ TEST(ShortcutTest, ChoicesHaveTheirStoredNamesAndLabelsInOrder)
 {
     QStringList choices;
     for (const ModifierKeyInfo &key : modifierKeys()) {
-        choices.append(u"%1: %2"_s.arg(key.rawValue, key.label));
+        choices.append(u"%1: %2"_s.arg(key.rawValue, key.label()));
     }
     for (const TriggerModeInfo &mode : triggerModes()) {
-        choices.append(u"%1: %2"_s.arg(mode.rawValue, mode.label));
+        choices.append(u"%1: %2"_s.arg(mode.rawValue, mode.label()));
     }
     EXPECT_EQ(choices, (QStringList{u"rightOption: Right ⌥ Option"_s, u"rightCommand: Right ⌘ Command"_s,
                                     u"rightControl: Right ⌃ Control"_s, u"fn: Fn (🌐)"_s,

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/audio/DefaultSource.h"
 
-#include "platform/audio/PulseHandles.h"
+#include "platform/audio/PulseRelease.h"
 
 #include <utility>
 

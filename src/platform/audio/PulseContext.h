@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/audio/DefaultSource.h"
-#include "platform/audio/PulseHandles.h"
+#include "platform/audio/PulseRelease.h"
 
 #include <QObject>
 

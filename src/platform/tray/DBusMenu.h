@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/MenuItem.h"
-#include "platform/tray/DBusMenuTypes.h"
+#include "platform/tray/DBusMenuLayout.h"
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusVariant>

@@ -14,6 +14,22 @@ namespace {
 
 const QString watcher = u"org.kde.StatusNotifierWatcher"_s;
 
+/// What panels expect on the wire. This test shares its decoding with the program, so a wrong type would go unnoticed.
+void requireSignature(const QDBusMessage &message, const QString &member)
+{
+    static const QMap<QString, QString> signatures{{u"GetLayout"_s, u"u(ia{sv}av)"_s},
+                                                   {u"GetAll"_s, u"a{sv}"_s},
+                                                   {u"GetGroupProperties"_s, u"a(ia{sv})"_s},
+                                                   {u"AboutToShow"_s, u"b"_s},
+                                                   {u"ItemsPropertiesUpdated"_s, u"a(ia{sv})a(ias)"_s},
+                                                   {u"LayoutUpdated"_s, u"ui"_s},
+                                                   {u"NewTitle"_s, QString()},
+                                                   {u"NewStatus"_s, u"s"_s}};
+    if (message.signature() != signatures.value(member, message.signature())) {
+        throw std::runtime_error(u"%1 is of type %2"_s.arg(member, message.signature()).toStdString());
+    }
+}
+
 } // namespace
 
 Panel::Panel(Host host, const QString &busAddress)
@@ -49,6 +65,7 @@ void Panel::add(const QString &item)
 
 void Panel::take(const QDBusMessage &signal)
 {
+    requireSignature(signal, signal.member());
     m_signals.append(signal.member());
     if (signal.member() == u"ItemsPropertiesUpdated") {
         m_updates.clear();
@@ -67,6 +84,7 @@ QVariantList Panel::call(const QString &path, const QString &interface, const QS
     if (reply.type() != QDBusMessage::ReplyMessage) {
         throw std::runtime_error(reply.errorMessage().toStdString());
     }
+    requireSignature(reply, method);
     return reply.arguments();
 }
 

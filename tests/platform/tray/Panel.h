@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/tray/DBusMenuTypes.h"
+#include "platform/tray/DBusMenuLayout.h"
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnection>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/x11/connection/Xcb.h"
+#include "platform/x11/connection/XcbPtr.h"
 #include "support/VirtualDisplay.h"
 
 #include <QByteArray>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/x11/connection/X11Extensions.h"
-#include "platform/x11/connection/Xcb.h"
+#include "platform/x11/connection/XcbPtr.h"
 
 #include <QByteArray>
 #include <QHash>

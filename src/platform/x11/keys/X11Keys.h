@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/KeyCodes.h"
-#include "platform/x11/connection/Xcb.h"
+#include "platform/x11/connection/XcbPtr.h"
 
 #include <bitset>
 #include <optional>

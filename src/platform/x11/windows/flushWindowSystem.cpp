@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/windows/flushWindowSystem.h"
 
-#include "platform/x11/connection/Xcb.h"
+#include "platform/x11/connection/XcbPtr.h"
 
 #include <QGuiApplication>
 

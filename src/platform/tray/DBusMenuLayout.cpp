@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/tray/DBusMenuTypes.h"
+#include "platform/tray/DBusMenuLayout.h"
 
 #include <QDBusMetaType>
 #include <QDBusVariant>
