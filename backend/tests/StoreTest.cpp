@@ -134,7 +134,9 @@ TEST_P(StoreTest, TakesWhatWasHeldOnceItIsDelivered)
     ASSERT_TRUE(delivered && failed);
     EXPECT_FALSE(ledger.hold(id, 1));
     EXPECT_EQ(ledger.balance(id), 10); // nothing is taken yet
+    now += 100;
     EXPECT_EQ(ledger.deliver(*delivered), 3);
+    now += Ledger::holdLifetime - 1;
     EXPECT_EQ(ledger.balance(id), 3); // what the reply said
     ledger.settle(*delivered);
     ledger.settle(*delivered);
@@ -271,6 +273,9 @@ TEST_F(PostgreSqlStoreTest, SharesTokenBucketsAmongProcesses)
     EXPECT_NEAR(static_cast<double>(first->buckets.take(u"a"_s, 4h, 10h)->count()), 2 * 3600e3, 60e3);
     EXPECT_FALSE(first->buckets.take(u"b"_s, 10h, 10h));
     EXPECT_FALSE(first->buckets.take(u"a"_s, 1h, 10h)); // what was refused has taken nothing
+    first->buckets.take(u"past"_s, 1ms, 10h);
+    EXPECT_FALSE(open()->buckets.take(u"c"_s, 1h, 10h));
+    EXPECT_EQ(first->database.select(u"SELECT * FROM token_buckets WHERE owner = 'past'"_s).size(), 0);
     first->buckets.add(u"a"_s, 10h);
     EXPECT_NEAR(static_cast<double>(second->buckets.take(u"a"_s, 1h, 10h)->count()), 10 * 3600e3, 60e3);
 }
@@ -280,6 +285,16 @@ TEST_F(PostgreSqlStoreTest, LimitsAStatementUnlessItsLocationDoes)
     const auto limit = [](const QString &location) {
         return Database(location).first(u"SELECT current_setting('statement_timeout')"_s)->at(0).toString();
     };
+    const auto ask = [this](const QString &sql) {
+        Database(database.location() + u"&options=-c%20statement_timeout%3D9"_s).select(sql);
+    };
+    EXPECT_THROW(ask(u"SELECT pg_sleep(9)"_s), StoreUnavailable);
+    try {
+        ask(u"SELECT 1 / 0"_s);
+        FAIL();
+    } catch (const StoreError &error) {
+        EXPECT_EQ(dynamic_cast<const StoreUnavailable *>(&error), nullptr) << "it will fail again";
+    }
     EXPECT_EQ(limit(database.location()), u"10s"_s);
     EXPECT_EQ(limit(database.location() + u"&options=-c%20statement_timeout%3D3s"_s), u"3s"_s);
 }
@@ -338,6 +353,7 @@ TEST_P(StoreTest, SellsOncePerLinkAndCreditsOncePerPurchase)
     EXPECT_FALSE(checkout.isValid(link));
     EXPECT_FALSE(checkout.begin(link, {100, 199}, u"eur"_s));
     checkout.abandon(link, *purchase);
+    EXPECT_EQ(checkout.complete(purchase->id), std::nullopt);
     purchase = checkout.begin(link, {100, 199}, u"eur"_s);
     ASSERT_TRUE(purchase);
     EXPECT_EQ(store->ledger.balance(id), 0);
@@ -352,6 +368,8 @@ TEST_P(StoreTest, SellsOncePerLinkAndCreditsOncePerPurchase)
     now += 1800;
     EXPECT_FALSE(checkout.isValid(late));
     EXPECT_FALSE(checkout.begin(late, {100, 199}, u"eur"_s));
+    checkout.addLink(id);
+    EXPECT_EQ(store->database.select(u"SELECT * FROM checkout_links"_s).size(), 1); // the others are forgotten
     EXPECT_EQ(store->ledger.balance(id), 100);
     EXPECT_EQ(store->ledger.entries(id, 0, 9).last().reference, purchase->id);
     EXPECT_THAT(store->ledger.unexplained(), testing::IsEmpty());
@@ -373,4 +391,18 @@ TEST_P(StoreTest, TakesBackWhatWasPaidBackAsFarAsItIsThere)
     EXPECT_EQ(store->ledger.balance(id), 600);
     EXPECT_EQ(store->ledger.entries(id, 0, 9).last().reference, purchase->id + u" (600 missing)"_s);
     EXPECT_THAT(store->ledger.unexplained(), testing::IsEmpty());
+}
+
+TEST(SqliteStoreTest, WaitsForTheDiskUnlessAChangeIsVolatile)
+{
+    const TestDatabase file(DatabaseKind::Sqlite);
+    Database database(file.location());
+    const auto pragma = [&](const QString &name) { return database.first(u"PRAGMA "_s + name)->at(0).toInt(); };
+    constexpr int full = 2;
+    for (const auto kind : {Transaction::Kind::Volatile, Transaction::Kind::Durable, Transaction::Kind::Volatile}) {
+        const Transaction transaction(database, kind);
+        EXPECT_EQ(pragma(u"synchronous"_s) == full, kind == Transaction::Kind::Durable);
+    }
+    EXPECT_EQ(pragma(u"foreign_keys"_s), 1);
+    EXPECT_EQ(database.first(u"PRAGMA journal_mode"_s)->at(0), u"wal"_s);
 }
