@@ -5,6 +5,7 @@
 #include "support/VirtualDisplay.h"
 #include "ui/Windows.h"
 #include "ui/history/HistoryModel.h"
+#include "ui/history/HistoryView.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -188,13 +189,15 @@ void measureWindow(const QByteArray &history)
         throw std::runtime_error("not all entries were loaded");
     }
     QQuickView *view = nullptr;
-    HistoryWindow window(windows.fake.application, windows.fake.preferences, windows.fake.screens,
-                         [&](HistoryWindow &owner) {
-                             auto made = HistoryView::makeWindow(windows.engine, windows.model, store, windows.groups,
-                                                                 owner, windows.fake.pasteboard, windows.fake.clock);
-                             view = qobject_cast<QQuickView *>(made.get());
-                             return made;
-                         });
+    HistoryWindow window(
+        windows.fake.application, windows.fake.preferences, windows.fake.screens, [&](HistoryWindow &owner) {
+            AppModel &model = *windows.model;
+            auto made =
+                HistoryView::makeWindow(windows.engine, {model.dictation(), model.shortcuts(), model.tokenBalance()},
+                                        store, windows.groups, owner, windows.fake.pasteboard, windows.fake.clock);
+            view = qobject_cast<QQuickView *>(made.get());
+            return made;
+        });
     pause(300ms);
     malloc_trim(0); // what reading the history has left free is not to be mistaken for memory saved
     const double before = residentBytes();

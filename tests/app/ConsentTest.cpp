@@ -19,7 +19,7 @@ protected:
 TEST_F(ConsentTest, TheFirstStartAsksAndTheAnswerDecidesWhatFollows)
 {
     fake.accessibility.trusted = false;
-    model.emplace(fake.platform, *client, consent, views());
+    make();
     start();
     ASSERT_TRUE(disclosure);
     EXPECT_FALSE(disclosure->isReview());
@@ -55,7 +55,7 @@ TEST_F(ConsentTest, AReviewShowsTheRecordAndCanWithdrawIt)
 TEST_F(ConsentTest, ClosingTheWindowDeclinesAndChangesNothing)
 {
     consent.grant();
-    model.emplace(fake.platform, *client, consent, views());
+    make();
     model->showConsent(true);
     window()->close();
     EXPECT_TRUE(model->hasConsent());

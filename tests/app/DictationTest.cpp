@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "AppModelFixture.h"
 
+#include "app/menu/MenuBarExtra.h"
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -13,42 +15,51 @@ class DictationTest : public AppModelFixture {};
 TEST_F(DictationTest, ModesDecideWhatReleaseAndPressDo)
 {
     start();
+    MenuBarExtra extra(*model, fake.platform);
+    const auto expect = [&](const AppModel::State &state, const QString &status, const QString &symbol) {
+        QCoreApplication::sendPostedEvents(&extra, QEvent::MetaCall);
+        EXPECT_EQ(model->state(), state);
+        EXPECT_EQ(model->statusText(), status);
+        EXPECT_EQ(fake.statusItem.symbol, symbol);
+        EXPECT_EQ(fake.statusItem.menu.first().title, status);
+    };
     struct Row {
         TriggerMode mode;
         std::chrono::milliseconds held;
-        Case afterRelease;
+        bool isTap;
+        QString status;
     };
-    for (const Row &row :
-         {Row{TriggerMode::Both, 349ms, Case::Recording}, Row{TriggerMode::Both, 350ms, Case::Transcribing},
-          Row{TriggerMode::Both, 5s, Case::Transcribing}, Row{TriggerMode::Hold, 1ms, Case::Transcribing},
-          Row{TriggerMode::Hold, 5s, Case::Transcribing}, Row{TriggerMode::Toggle, 1ms, Case::Recording},
-          Row{TriggerMode::Toggle, 5s, Case::Recording}}) {
-        SCOPED_TRACE(::testing::Message()
-                     << info(row.mode).rawValue.toString().toStdString() << " " << row.held.count());
+    const QString both = u"Hold or tap ⌃⌥ Space to dictate"_s;
+    const QString hold = u"Hold ⌃⌥ Space to dictate"_s;
+    const QString tap = u"Tap ⌃⌥ Space to dictate"_s;
+    for (const Row &row : {Row{TriggerMode::Both, 349ms, true, both}, Row{TriggerMode::Both, 350ms, false, both},
+                           Row{TriggerMode::Hold, 1ms, false, hold}, Row{TriggerMode::Hold, 5s, false, hold},
+                           Row{TriggerMode::Toggle, 1ms, true, tap}, Row{TriggerMode::Toggle, 5s, true, tap}}) {
+        SCOPED_TRACE(row.status.toStdString() + " " + std::to_string(row.held.count()));
+        const QString listening = u"Listening… (Esc to cancel)"_s;
         model->setTriggerMode(row.mode);
+        expect({}, row.status, u"waveform"_s);
         press();
         const auto startedAt = fake.clock.now();
-        EXPECT_EQ(model->state(), (AppModel::State{Case::Recording, startedAt, false}));
-        EXPECT_EQ(phase(), HUDModel::Phase(HUDPhase::Recording{false}));
         press(); // while held: nothing
+        expect({Case::Recording, startedAt, false}, listening, u"record.circle.fill"_s);
+        EXPECT_EQ(phase(), HUDModel::Phase(HUDPhase::Recording{false}));
         fake.clock.advance(row.held);
         release();
-        EXPECT_EQ(model->state().value, row.afterRelease);
-        if (row.afterRelease == Case::Recording) {
-            EXPECT_EQ(model->state(), (AppModel::State{Case::Recording, startedAt, true}));
+        if (row.isTap) {
             EXPECT_EQ(phase(), HUDModel::Phase(HUDPhase::Recording{true}));
             model->handle(ShortcutEvent::Interrupted); // hands-free: nothing
             release();
-            EXPECT_EQ(model->state().value, Case::Recording);
+            expect({Case::Recording, startedAt, true}, listening, u"record.circle.fill"_s);
             press();
-            EXPECT_EQ(model->state().value, Case::Transcribing);
         }
-        EXPECT_EQ(phase(), HUDModel::Phase(HUDPhase::Transcribing{}));
-        EXPECT_FALSE(escapeIsGrabbed());
+        release();
         press(); // while transcribing: nothing
         release();
-        EXPECT_EQ(model->state().value, Case::Transcribing);
-        ASSERT_TRUE(await([this] { return model->state().value == Case::Idle; }));
+        expect({Case::Transcribing}, u"Transcribing…"_s, u"ellipsis.circle"_s);
+        EXPECT_EQ(phase(), HUDModel::Phase(HUDPhase::Transcribing{}));
+        EXPECT_FALSE(escapeIsGrabbed());
+        ASSERT_TRUE(awaitIdle());
         fake.clock.advance(1s);
     }
 }
@@ -84,7 +95,7 @@ TEST_F(DictationTest, TheGroupIsTheOneActiveWhenTheRecordingEnds)
     EXPECT_EQ(phase(), HUDModel::Phase(HUDPhase::Recording{false})); // the HUD is left alone
     release();
     model->cycleGroup(true);
-    ASSERT_TRUE(await([this] { return model->state().value == Case::Idle; }));
+    ASSERT_TRUE(awaitIdle());
     EXPECT_EQ(model->store().items().first().categoryId, second);
     EXPECT_FALSE(model->groups().activeId());
 }
@@ -105,27 +116,21 @@ TEST_F(DictationTest, RepliesThatAreNoTextEndWithTheirNotice)
         {{200, "", HttpServer::Response::Ending::CloseWithoutReply},
          error(u"Network error. Please check your connection."_s),
          0},
+        {{402, R"({"error":"insufficient_tokens","message":"m"})"}, HUDPhase::OutOfTokens{true}, 0},
     };
     for (const Row &row : table) {
         transcript = row.reply;
+        if (row.phase == HUDModel::Phase(HUDPhase::OutOfTokens{true})) { // as the next balance request finds out
+            fake.preferences.setBoolean(u"freeGrantMissed"_s, true);
+            model->refreshBalance();
+            ASSERT_TRUE(await([this] { return model->balance() == 10; }));
+        }
         dictate();
         EXPECT_EQ(phase(), row.phase);
         EXPECT_EQ(model->balance(), row.balance);
         EXPECT_TRUE(model->store().items().isEmpty());
         EXPECT_TRUE(fake.files.recordings().isEmpty());
     }
-}
-
-TEST_F(DictationTest, RunningOutSaysSoWhenTheFreeGrantWasMissed)
-{
-    start();
-    fake.preferences.setBoolean(u"freeGrantMissed"_s, true);
-    balance = 11;
-    model->refreshBalance();
-    ASSERT_TRUE(await([this] { return model->balance() == 11; }));
-    transcript = {402, R"({"error":"insufficient_tokens"})"};
-    dictate();
-    EXPECT_EQ(phase(), HUDModel::Phase(HUDPhase::OutOfTokens{true}));
 }
 
 TEST_F(DictationTest, WithoutTrustTheTextIsLeftForPasting)
@@ -184,20 +189,21 @@ TEST_F(DictationTest, TheTimeLimitAndALostMicrophoneFinishWithWhatWasHeard)
     EXPECT_EQ(model->state().value, Case::Recording);
     fake.clock.advance(1ms);
     EXPECT_EQ(model->state().value, Case::Transcribing);
-    ASSERT_TRUE(await([this] { return model->state().value == Case::Idle; }));
+    ASSERT_TRUE(awaitIdle());
     fake.clock.advance(1s);
 
     press();
     fake.microphone.current->end();
     fake.clock.advance(0ms);
     EXPECT_EQ(model->state().value, Case::Transcribing);
-    ASSERT_TRUE(await([this] { return model->state().value == Case::Idle; }));
+    ASSERT_TRUE(awaitIdle());
     EXPECT_EQ(model->store().items().size(), 2);
 }
 
-TEST_F(DictationTest, TheMeterFollowsTheLevelWhileRecording)
+TEST_F(DictationTest, TheMeterFollowsTheLevelWhileRecordingAndNothingIsTimedAfterwards)
 {
     start();
+    const int timersBefore = fake.clock.pending();
     press();
     for (const auto &[power, level] :
          {std::pair{-60.0F, 0.0F}, {-50.0F, 0.0F}, {-25.0F, 0.5F}, {0.0F, 1.0F}, {3.0F, 1.0F}}) {
@@ -206,7 +212,8 @@ TEST_F(DictationTest, TheMeterFollowsTheLevelWhileRecording)
         EXPECT_FLOAT_EQ(model->hud().model().level(), level);
     }
     fake.hotKeys.press(KeyCode::escape, 0);
-    fake.clock.advance(10s);
+    EXPECT_EQ(fake.clock.pending(), timersBefore + 1); // the notice hides by itself
+    fake.clock.advance(2500ms);
     EXPECT_EQ(model->hud().model().level(), 0);
 }
 
@@ -255,24 +262,16 @@ TEST_F(DictationTest, ADictationBegunDuringThePasteKeepsItsHud)
 
 TEST_F(DictationTest, EndingTheProgramLeavesNoRecordingBehind)
 {
-    start();
-    press();
-    model.reset();
-    EXPECT_TRUE(fake.files.recordings().isEmpty());
-}
-
-TEST_F(DictationTest, TheStatusSaysWhatTheShortcutDoes)
-{
-    start();
-    EXPECT_EQ(model->statusText(), u"Hold or tap ⌃⌥ Space to dictate"_s);
-    model->setTriggerMode(TriggerMode::Hold);
-    EXPECT_EQ(model->statusText(), u"Hold ⌃⌥ Space to dictate"_s);
-    model->setTriggerMode(TriggerMode::Toggle);
-    EXPECT_EQ(model->statusText(), u"Tap ⌃⌥ Space to dictate"_s);
-    press();
-    EXPECT_EQ(model->statusText(), u"Listening… (Esc to cancel)"_s);
-    release();
-    press();
-    EXPECT_EQ(model->statusText(), u"Transcribing…"_s);
-    ASSERT_TRUE(await([this] { return model->state().value == Case::Idle; }));
+    for (const bool isTranscribing : {false, true}) {
+        make();
+        start();
+        press();
+        fake.clock.advance(1s);
+        if (isTranscribing) {
+            release();
+        }
+        EXPECT_EQ(fake.files.recordings().size(), 1);
+        model.reset();
+        EXPECT_TRUE(fake.files.recordings().isEmpty());
+    }
 }

@@ -145,18 +145,3 @@ TEST_F(MenuTest, RecentTranscriptsAreShortenedAndCopiedWhole)
     item(u"Clear"_s, recent()).action();
     EXPECT_TRUE(model->store().items().isEmpty());
 }
-
-TEST_F(MenuTest, TheSymbolFollowsTheDictation)
-{
-    open();
-    EXPECT_EQ(fake.statusItem.symbol, u"waveform"_s);
-    press();
-    menu();
-    EXPECT_EQ(fake.statusItem.symbol, u"record.circle.fill"_s);
-    fake.clock.advance(std::chrono::seconds(1));
-    release();
-    menu();
-    EXPECT_EQ(fake.statusItem.symbol, u"ellipsis.circle"_s);
-    EXPECT_EQ(lines(menu()).first(), u"(Transcribing…)"_s);
-    ASSERT_TRUE(await([this] { return model->state().value == Case::Idle; }));
-}

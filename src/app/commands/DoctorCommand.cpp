@@ -4,7 +4,7 @@
 #include "app/commands/CommandLine.h"
 #include "app/commands/Output.h"
 #include "app/commands/RunningInstance.h"
-#include "app/model/StoredShortcut.h"
+#include "app/model/Shortcuts.h"
 #include "app/start/DisplayChoice.h"
 #include "app/start/Services.h"
 #include "app/start/TerminationSignals.h"
@@ -34,7 +34,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using Level = Finding::Level;
-using Use = StoredShortcut::Use;
+using Use = Shortcuts::Use;
 
 constexpr auto backendPatience = std::chrono::seconds(10);
 
@@ -98,7 +98,7 @@ QList<Finding> hotKeyFindings(X11Backend &x11, const Preferences &preferences)
     }
     QList<Finding> findings;
     for (const Use use : {Use::Dictation, Use::Group, Use::History}) {
-        const Shortcut shortcut = StoredShortcut::read(preferences, use);
+        const Shortcut shortcut = Shortcuts::stored(preferences, use);
         const Shortcut::Combo *combo = shortcut.asCombo();
         if (combo == nullptr) {
             continue; // raw keys, whose line says whether they can be had
@@ -118,7 +118,7 @@ X11Examination displayFindings(Services &services)
     if (const auto refusal = DisplayChoice::refusal()) {
         return {{{Finding::tr("Display server"), Level::Problem, *refusal, Finding::tr("log in to an X11 session")}}};
     }
-    const Shortcut dictation = StoredShortcut::read(services.preferences, Use::Dictation);
+    const Shortcut dictation = Shortcuts::stored(services.preferences, Use::Dictation);
     const bool isSingleKey = dictation.asModifier() != nullptr;
     X11Examination display =
         examineX11(isSingleKey ? DictationShortcutKind::SingleKey : DictationShortcutKind::Combination);

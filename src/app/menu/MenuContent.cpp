@@ -69,7 +69,8 @@ QList<MenuItem> status(AppModel &model)
     }
     if (!model.isTrusted()) {
         items.append(separator());
-        items.append(button(u"⚠\uFE0E Allow pasting into other apps…"_s, [&model] { model.fixAccessibility(); }));
+        items.append(
+            button(u"⚠\uFE0E Allow pasting into other apps…"_s, [&model] { model.permissions().fixAccessibility(); }));
     }
     return items;
 }

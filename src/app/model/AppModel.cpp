@@ -1,67 +1,48 @@
 // SPDX-License-Identifier: MIT
 #include "app/model/AppModel.h"
 
-#include "app/model/StoredShortcut.h"
-#include "platform/Accessibility.h"
 #include "platform/Platform.h"
-#include "platform/Preferences.h"
 #include "service/AIConsent.h"
 
-#include <algorithm>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-using Use = StoredShortcut::Use;
-
-const QString triggerModeKey = u"triggerMode"_s;
-TriggerMode storedTriggerMode(const Preferences &preferences)
-{
-    const auto stored = preferences.string(triggerModeKey);
-    const auto *const found =
-        std::ranges::find_if(triggerModes(), [&](const TriggerModeInfo &mode) { return stored == mode.rawValue; });
-    return found == triggerModes().end() ? TriggerMode::Both : found->mode;
-}
-
-std::optional<QString> conflict(bool isArmed, const Shortcut &shortcut)
-{
-    return isArmed ? std::nullopt
-                   : std::optional(shortcut.label() + u" is already in use. Pick a different shortcut."_s);
-}
-
-} // namespace
-
 AppModel::AppModel(const Platform &platform, ApiClient &client, AIConsent &consent, Views views)
-    : m_platform(platform),
-      m_clock(platform.clock),
-      m_client(client),
-      m_consent(consent),
-      m_freeGrantMissed(platform.preferences.boolean(u"freeGrantMissed"_s)),
-      m_isTrusted(platform.accessibility.isTrusted()),
-      m_hasConsent(consent.isCurrent()),
-      m_shortcut(StoredShortcut::read(platform.preferences, Use::Dictation)),
-      m_triggerMode(storedTriggerMode(platform.preferences)),
-      m_groupShortcut(StoredShortcut::read(platform.preferences, Use::Group)),
-      m_historyShortcut(StoredShortcut::read(platform.preferences, Use::History)),
+    : m_consent(consent),
       m_store(platform.files, platform.clock),
       m_groups(platform.files, platform.preferences, platform.clock),
-      m_historyWindow(platform.application, platform.preferences, platform.screens, std::move(views.history)),
-      m_consentWindow(consent, platform.preferences, platform.packagedInfo, platform.application, platform.screens,
-                      std::move(views.consent)),
-      m_settingsWindow(platform.application, platform.screens, std::move(views.settings)),
+      m_historyWindow(platform.application, platform.preferences, platform.screens,
+                      [this, make = std::move(views.history)](HistoryWindow &) { return make(*this); }),
+      m_consentWindow(consent, platform.preferences, platform.packagedInfo, platform.application, platform.screens, std::move(views.consent)),
+      m_settingsWindow(platform.application, platform.screens,
+                       [this, make = std::move(views.settings)] { return make(*this); }),
       m_recorder(platform.microphone, platform.files),
-      m_inserter(platform.pasteboard, platform.keyEvents, platform.accessibility, platform.clock),
       m_hud(platform.clock, platform.screens, std::move(views.hud)),
-      m_monitor(platform.hotKeys, platform.keyMonitors, [this](ShortcutEvent event) { handle(event); })
+      m_general(platform.loginItem, m_hud),
+      m_permissions(platform, m_recorder, consent, m_consentWindow, m_hud),
+      m_balance(platform.clock, platform.preferences, platform.workspace, client, m_hud),
+      m_shortcuts(platform.hotKeys, platform.keyMonitors, platform.preferences, platform.accessibility),
+      m_dictation(platform, client, m_recorder, m_permissions, m_shortcuts, m_balance, m_store, m_groups, m_hud)
 {
-    m_microphone = m_recorder.permission();
+    connectParts();
 }
 
-AppModel::~AppModel()
+void AppModel::connectParts()
 {
-    m_recorder.cancel();
-    std::ranges::for_each(m_uploads, &AudioRecorder::discard);
+    connect(&m_shortcuts, &Shortcuts::groupPressed, this, [this] { cycleGroup(true); });
+    connect(&m_shortcuts, &Shortcuts::historyPressed, &m_historyWindow, &HistoryWindow::toggle);
+    connect(&m_permissions, &Permissions::trustChanged, &m_shortcuts, &Shortcuts::armShortcut);
+    connect(&m_permissions, &Permissions::consentGranted, &m_balance, &TokenBalance::refresh);
+
+    connect(&m_dictation, &Dictation::stateChanged, this, &AppModel::stateChanged);
+    connect(&m_dictation, &Dictation::statusTextChanged, this, &AppModel::statusTextChanged);
+    connect(&m_shortcuts, &Shortcuts::shortcutsChanged, this, &AppModel::shortcutsChanged);
+    connect(&m_shortcuts, &Shortcuts::shortcutErrorsChanged, this, &AppModel::shortcutErrorsChanged);
+    connect(&m_permissions, &Permissions::permissionsChanged, this, &AppModel::permissionsChanged);
+    connect(&m_permissions, &Permissions::hasConsentChanged, this, &AppModel::hasConsentChanged);
+    connect(&m_balance, &TokenBalance::balanceChanged, this, &AppModel::balanceChanged);
+    connect(&m_general, &GeneralSettings::launchesAtLoginChanged, this, &AppModel::launchesAtLoginChanged);
 }
 
 void AppModel::start()
@@ -72,7 +53,7 @@ void AppModel::start()
     });
     armShortcut();
     armWindowShortcuts();
-    watchPermissions();
+    m_permissions.watch();
     if (m_consent.isCurrent()) {
         refreshBalance();
     } else {
@@ -80,101 +61,10 @@ void AppModel::start()
     }
 }
 
-void AppModel::setShortcut(const Shortcut &shortcut)
-{
-    m_shortcut = shortcut;
-    m_platform.preferences.setData(StoredShortcut::key(Use::Dictation), shortcut.toJson());
-    armShortcut();
-    if (shortcut.asModifier() != nullptr && !m_isTrusted) {
-        m_platform.accessibility.promptForTrust();
-    }
-    Q_EMIT shortcutsChanged();
-    Q_EMIT statusTextChanged();
-}
-
-void AppModel::setTriggerMode(TriggerMode mode)
-{
-    m_triggerMode = mode;
-    m_platform.preferences.setString(triggerModeKey, info(mode).rawValue.toString());
-    Q_EMIT shortcutsChanged();
-    Q_EMIT statusTextChanged();
-}
-
-void AppModel::setGroupShortcut(const Shortcut &shortcut)
-{
-    m_groupShortcut = shortcut;
-    m_platform.preferences.setData(StoredShortcut::key(Use::Group), shortcut.toJson());
-    armWindowShortcuts();
-    Q_EMIT shortcutsChanged();
-}
-
-void AppModel::setHistoryShortcut(const Shortcut &shortcut)
-{
-    m_historyShortcut = shortcut;
-    m_platform.preferences.setData(StoredShortcut::key(Use::History), shortcut.toJson());
-    armWindowShortcuts();
-    Q_EMIT shortcutsChanged();
-}
-
-void AppModel::armShortcut()
-{
-    if (m_isDisarmed) {
-        return;
-    }
-    const bool isArmed = m_monitor.activate(m_shortcut);
-    m_shortcutError =
-        isArmed ? std::nullopt
-                : std::optional(m_shortcut.label() + u" is already used by another app. Pick a different shortcut."_s);
-    Q_EMIT shortcutErrorsChanged();
-}
-
-void AppModel::armWindowShortcuts()
-{
-    if (m_isDisarmed) {
-        return;
-    }
-    m_groupHotKey.reset();
-    m_historyHotKey.reset();
-    m_groupHotKey = armWindowShortcut(m_groupShortcut, [this] { cycleGroup(true); });
-    m_historyHotKey = armWindowShortcut(m_historyShortcut, [this] { m_historyWindow.toggle(); });
-    m_groupShortcutError = conflict(m_groupHotKey != nullptr, m_groupShortcut);
-    m_historyShortcutError = conflict(m_historyHotKey != nullptr, m_historyShortcut);
-    Q_EMIT shortcutErrorsChanged();
-}
-
-void AppModel::disarmShortcuts()
-{
-    m_isDisarmed = true;
-    m_monitor.deactivate();
-    m_groupHotKey.reset();
-    m_historyHotKey.reset();
-}
-
-void AppModel::rearmShortcuts()
-{
-    m_isDisarmed = false;
-    armShortcut();
-    armWindowShortcuts();
-}
-
-std::unique_ptr<CarbonHotKey> AppModel::armWindowShortcut(const Shortcut &shortcut, std::function<void()> action)
-{
-    const Shortcut::Combo *combo = shortcut.asCombo();
-    if (combo == nullptr) {
-        return nullptr;
-    }
-    return CarbonHotKey::create(m_platform.hotKeys, combo->keyCode, combo->modifiers,
-                                [action = std::move(action)](bool pressed) {
-                                    if (pressed) {
-                                        action();
-                                    }
-                                });
-}
-
 void AppModel::cycleGroup(bool forward)
 {
     m_groups.cycle(forward);
-    if (m_state.value == State::Case::Idle) {
+    if (state().value == State::Case::Idle) {
         const auto group = m_groups.group(m_groups.activeId());
         m_hud.show(HUDPhase::Group{group ? group->name : u"All entries"_s});
     }

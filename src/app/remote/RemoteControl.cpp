@@ -2,13 +2,30 @@
 #include "app/remote/RemoteControl.h"
 
 #include "app/model/AppModel.h"
-#include "app/model/stateName.h"
 #include "app/remote/RemoteInterfaces.h"
 #include "platform/Application.h"
 
 #include <QDBusConnectionInterface>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The dictation state as scripts read it.
+QString stateName(const AppModel::State &state)
+{
+    switch (state.value) {
+    case AppModel::State::Case::Recording:
+        return u"recording"_s;
+    case AppModel::State::Case::Transcribing:
+        return u"transcribing"_s;
+    case AppModel::State::Case::Idle:
+        break;
+    }
+    return u"idle"_s;
+}
+
+} // namespace
 
 RemoteControl::RemoteControl(QDBusConnection bus) : m_bus(std::move(bus)), m_interface(new RemoteInterface(*this))
 {
@@ -47,8 +64,8 @@ void RemoteControl::setTarget(AppModel &model, Application &application)
     m_actions = {
         {u"press"_s, [this] { press(); }},
         {u"release"_s, [this] { release(); }},
-        {u"toggle"_s, [&model] { model.toggleDictation(); }},
-        {u"cancel"_s, [&model] { model.cancelDictation(); }},
+        {u"toggle"_s, [&model] { model.dictation().toggle(); }},
+        {u"cancel"_s, [&model] { model.dictation().cancel(); }},
         {u"history"_s, [&model] { model.historyWindow().show(false); }},
         {u"edit-groups"_s, [&model] { model.historyWindow().show(true); }},
         {u"settings"_s, [&model] { model.settingsWindow().show(); }},

@@ -19,14 +19,11 @@ public:
     Composition &operator=(const Composition &) = delete;
     ~Composition();
 
+    /// What the program does when it has been launched: the fonts, the shortcuts, and the view that is needed first.
+    void start();
+
     AppModel &model();
     const Platform &platform() const;
-
-    /// Makes the packaged fonts known to the views; before any is made.
-    static void registerFonts();
-
-    /// Loads the views, so that the first HUD appears as fast as the later ones.
-    void prepareViews();
 
 private:
     struct Parts;

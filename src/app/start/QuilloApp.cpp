@@ -10,7 +10,6 @@
 #include "app/commands/StatusCommand.h"
 #include "app/commands/TranscribeCommand.h"
 #include "app/remote/RemoteControl.h"
-#include "app/start/AppDelegate.h"
 #include "app/start/Composition.h"
 #include "app/start/DisplayChoice.h"
 #include "app/start/TerminationSignals.h"
@@ -85,7 +84,7 @@ int start(Arguments arguments)
     if (!composition) {
         return Output::fail(whyNot, ExitStatus::failed);
     }
-    AppDelegate(*composition).applicationDidFinishLaunching();
+    composition->start();
     // What has been asked of the program meanwhile is served by the event loop, after the launch.
     remote.setTarget(composition->model(), composition->platform().application);
     const int status = QApplication::exec();

@@ -2,6 +2,7 @@
 #include "app/start/TerminationSignals.h"
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <sys/eventfd.h>
 #include <unistd.h>
@@ -16,9 +17,11 @@ constexpr std::array caught{SIGINT, SIGTERM, SIGHUP};
 
 void wake(int /*signal*/)
 {
+    const int before = errno; // of whatever was interrupted, which has yet to look at it
     const eventfd_t one = 1;
     // Nothing can be done here about a failing write.
     [[maybe_unused]] const auto written = ::write(wakeDescriptor, &one, sizeof one);
+    errno = before;
 }
 
 } // namespace

@@ -5,6 +5,9 @@
 #include "ui/groups/GroupEditorModel.h"
 #include "ui/history/HistoryModel.h"
 #include "ui/history/HistoryWindow.h"
+#include "ui/models/BalanceProperties.h"
+#include "ui/models/DictationProperties.h"
+#include "ui/models/ShortcutProperties.h"
 #include "ui/style/Paper.h"
 #include "ui/windows/makeViewWindow.h"
 
@@ -19,15 +22,17 @@ constexpr QSize leastHistorySize(380, 440);
 
 } // namespace
 
-std::unique_ptr<QWindow> HistoryView::makeWindow(QQmlEngine &engine, QObject &model, TranscriptionStore &store,
-                                                 GroupStore &groups, HistoryWindow &window, Pasteboard &pasteboard,
-                                                 Clock &clock)
+std::unique_ptr<QWindow> HistoryView::makeWindow(QQmlEngine &engine, const Properties &properties,
+                                                 TranscriptionStore &store, GroupStore &groups, HistoryWindow &window,
+                                                 Pasteboard &pasteboard, Clock &clock)
 {
     auto history = std::make_unique<HistoryModel>(store, groups, pasteboard, clock);
     auto carousel = std::make_unique<GroupCarouselModel>(groups);
     auto editor = std::make_unique<GroupEditorModel>(groups);
     auto view = makeViewWindow(engine, u"history/HistoryView"_s,
-                               {{u"model"_s, QVariant::fromValue(&model)},
+                               {{u"dictation"_s, QVariant::fromValue(&properties.dictation)},
+                                {u"shortcuts"_s, QVariant::fromValue(&properties.shortcuts)},
+                                {u"balance"_s, QVariant::fromValue(&properties.balance)},
                                 {u"history"_s, QVariant::fromValue(history.get())},
                                 {u"carousel"_s, QVariant::fromValue(carousel.get())},
                                 {u"editor"_s, QVariant::fromValue(editor.get())},

@@ -3,21 +3,29 @@
 
 #include <memory>
 
+class BalanceProperties;
 class Clock;
+class DictationProperties;
 class GroupStore;
 class HistoryWindow;
 class Pasteboard;
-class QObject;
 class QQmlEngine;
 class QWindow;
+class ShortcutProperties;
 class TranscriptionStore;
 
 /// The view HistoryView and the models behind it.
 namespace HistoryView {
 
-/// Makes the history window with the view in it, not yet shown. `model` is the controller as views observe it;
-/// everything that is passed outlives the window.
-std::unique_ptr<QWindow> makeWindow(QQmlEngine &engine, QObject &model, TranscriptionStore &store, GroupStore &groups,
-                                    HistoryWindow &window, Pasteboard &pasteboard, Clock &clock);
+/// What the window shows beside the history.
+struct Properties {
+    DictationProperties &dictation;
+    ShortcutProperties &shortcuts;
+    BalanceProperties &balance;
+};
+
+/// Makes the history window with the view in it, not yet shown. Everything that is passed outlives the window.
+std::unique_ptr<QWindow> makeWindow(QQmlEngine &engine, const Properties &properties, TranscriptionStore &store,
+                                    GroupStore &groups, HistoryWindow &window, Pasteboard &pasteboard, Clock &clock);
 
 } // namespace HistoryView

@@ -6,7 +6,9 @@ import Quillo
 Item {
     id: view
 
-    required property var model
+    required property DictationProperties dictation
+    required property ShortcutProperties shortcuts
+    required property BalanceProperties balance
     required property HistoryModel history
     required property GroupCarouselModel carousel
     required property GroupEditorModel editor
@@ -79,7 +81,9 @@ Item {
         StatusStrip {
             x: 24
             width: parent.width - 48
-            model: view.model
+            dictation: view.dictation
+            shortcuts: view.shortcuts
+            balance: view.balance
         }
         GroupCarousel {
             width: parent.width
@@ -97,7 +101,7 @@ Item {
         EmptyTitle { text: qsTr("No entries yet.") }
         EmptyHint {
             text: view.carousel.activeHint !== "" ? view.carousel.activeHint
-                                                  : qsTr("Dictate with %1 to see it here.").arg(view.model.shortcutLabel)
+                                                  : qsTr("Dictate with %1 to see it here.").arg(view.shortcuts.dictationLabel)
         }
     }
 

@@ -6,7 +6,9 @@ import Quillo
 Column {
     id: strip
 
-    required property var model
+    required property DictationProperties dictation
+    required property ShortcutProperties shortcuts
+    required property BalanceProperties balance
 
     spacing: 6
 
@@ -18,11 +20,11 @@ Column {
             id: indicator
 
             anchors.verticalCenter: parent.verticalCenter
-            width: strip.model.state === "recording" ? 9 : 16
+            width: strip.dictation.activity === DictationProperties.Recording ? 9 : 16
             height: 16
 
             RoundedRectangle {
-                visible: strip.model.state === "recording"
+                visible: strip.dictation.activity === DictationProperties.Recording
                 anchors.centerIn: parent
                 width: 9
                 height: 9
@@ -30,13 +32,13 @@ Column {
                 color: Paper.accent
             }
             Image {
-                visible: strip.model.state === "idle"
+                visible: strip.dictation.activity === DictationProperties.Idle
                 anchors.centerIn: parent
                 sourceSize { width: 16; height: 16 }
                 source: "../style/symbols/waveform.svg"
             }
             Spinner {
-                visible: strip.model.state === "transcribing"
+                visible: strip.dictation.activity === DictationProperties.Transcribing
                 anchors.centerIn: parent
                 color: Paper.secondary
                 running: visible && strip.Window.window !== null && strip.Window.window.visible
@@ -45,8 +47,8 @@ Column {
         Text {
             id: status
 
-            anchors { left: indicator.right; leftMargin: 8; right: balance.left; rightMargin: 8; verticalCenter: parent.verticalCenter }
-            text: strip.model.statusText
+            anchors { left: indicator.right; leftMargin: 8; right: tokens.left; rightMargin: 8; verticalCenter: parent.verticalCenter }
+            text: strip.dictation.statusText
             textFormat: Text.PlainText
             elide: Text.ElideRight
             font: Paper.sans(13)
@@ -55,17 +57,17 @@ Column {
             Accessible.name: text
         }
         MetaLabel {
-            id: balance
+            id: tokens
 
-            visible: strip.model.balance !== undefined
+            visible: strip.balance.isKnown
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
             width: visible ? implicitWidth : 0
-            label: visible ? strip.model.balance + " tokens" : ""
+            label: visible ? strip.balance.tokens + " tokens" : ""
         }
     }
 
     MetaLabel {
         width: parent.width
-        label: strip.model.groupShortcutLabel + "  next group   ·   " + strip.model.historyShortcutLabel + "  hide"
+        label: strip.shortcuts.groupLabel + "  next group   ·   " + strip.shortcuts.historyLabel + "  hide"
     }
 }

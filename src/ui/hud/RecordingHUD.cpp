@@ -35,13 +35,19 @@ RecordingHUD::RecordingHUD(Clock &clock, const Screens &screens, PanelFactory ma
 
 RecordingHUD::~RecordingHUD() = default;
 
-void RecordingHUD::show(const Phase &phase)
+void RecordingHUD::prepare()
 {
-    m_hideTask.reset();
-    m_model.setPhase(phase);
     if (!m_panel) {
         m_panel = m_makePanel(m_model);
     }
+}
+
+void RecordingHUD::show(const Phase &phase)
+{
+    prepare();
+    m_hideTask.reset();
+    m_isShown = true;
+    m_model.setPhase(phase);
     m_panel->setIgnoresMouseEvents(!std::holds_alternative<HUDPhase::OutOfTokens>(phase));
     position();
     m_panel->orderFrontRegardless();
@@ -50,13 +56,37 @@ void RecordingHUD::show(const Phase &phase)
     }
 }
 
+void RecordingHUD::notify(const Phase &notice)
+{
+    if (showsDictation()) {
+        m_waiting.append(notice);
+    } else {
+        show(notice);
+    }
+}
+
 void RecordingHUD::hide()
 {
     m_hideTask.reset();
-    if (m_panel) {
+    m_isShown = false;
+    m_model.setLevel(0);
+    if (!m_waiting.isEmpty()) {
+        show(m_waiting.takeFirst());
+    } else if (m_panel) {
         m_panel->orderOut();
     }
-    m_model.setLevel(0);
+}
+
+void RecordingHUD::retract(const Phase &phase)
+{
+    if (m_isShown && m_model.phase() == phase) {
+        hide();
+    }
+}
+
+bool RecordingHUD::showsDictation() const
+{
+    return m_isShown && !autoHide(m_model.phase());
 }
 
 void RecordingHUD::position()

@@ -6,7 +6,8 @@ import Quillo
 FormSection {
     id: section
 
-    required property var model
+    required property PermissionProperties permissions
+    required property BalanceProperties balance
 
     title: "Data & AI"
 
@@ -14,24 +15,24 @@ FormSection {
         label: "Sending to OpenAI"
 
         Value {
-            text: section.model.hasConsent ? "Allowed" : "Off"
-            color: section.model.hasConsent ? SystemColors.secondary : SystemColors.orange
+            text: section.permissions.hasConsent ? "Allowed" : "Off"
+            color: section.permissions.hasConsent ? SystemColors.secondary : SystemColors.orange
         }
         PushButton {
             text: "Review…"
-            onClicked: section.model.reviewConsent()
+            onClicked: section.permissions.reviewConsent()
         }
     }
     FormRow {
         label: "Tokens"
 
         Value {
-            text: section.model.isUnmetered ? "Unmetered" : section.model.balance ?? "—"
+            text: section.balance.isUnmetered ? "Unmetered" : section.balance.isKnown ? section.balance.tokens : "—"
         }
         PushButton {
             text: "Refresh"
-            enabled: section.model.hasConsent
-            onClicked: section.model.refreshBalance()
+            enabled: section.permissions.hasConsent
+            onClicked: section.balance.refresh()
         }
     }
 }

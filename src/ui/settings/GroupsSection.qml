@@ -6,7 +6,7 @@ import Quillo
 FormSection {
     id: section
 
-    required property var model
+    required property ShortcutProperties shortcuts
     required property SettingsModel settings
 
     title: "Groups & History"
@@ -17,28 +17,28 @@ FormSection {
 
         ShortcutRecorder {
             recorder: section.settings.groupShortcutRecorder
-            shortcut: section.model.groupShortcutLabel
+            shortcut: section.shortcuts.groupLabel
             title: "Next group"
         }
     }
     FormNote {
         visible: text !== ""
         isWarning: true
-        text: section.model.groupShortcutError
+        text: section.shortcuts.groupError
     }
     FormRow {
         label: "Show or hide history"
 
         ShortcutRecorder {
             recorder: section.settings.historyShortcutRecorder
-            shortcut: section.model.historyShortcutLabel
+            shortcut: section.shortcuts.historyLabel
             title: "Show or hide history"
         }
     }
     FormNote {
         visible: text !== ""
         isWarning: true
-        text: section.model.historyShortcutError
+        text: section.shortcuts.historyError
     }
     FormRow {
         label: "Groups"
@@ -46,7 +46,7 @@ FormSection {
         Value { text: section.settings.groupCount }
         PushButton {
             text: "Edit…"
-            onClicked: section.model.editGroups()
+            onClicked: section.settings.editGroups()
             Accessible.name: "Edit groups"
         }
     }

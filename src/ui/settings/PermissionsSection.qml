@@ -6,20 +6,20 @@ import Quillo
 FormSection {
     id: section
 
-    required property var model
+    required property PermissionProperties permissions
 
     title: "Permissions"
 
     PermissionRow {
         label: "Microphone"
         detail: "To hear what you say."
-        isGranted: section.model.isMicrophoneGranted
-        onFix: section.model.fixMicrophone()
+        isGranted: section.permissions.isMicrophoneGranted
+        onFix: section.permissions.fixMicrophone()
     }
     PermissionRow {
         label: "Accessibility"
         detail: "To paste into other apps. Without it, text is copied and you press ⌘V."
-        isGranted: section.model.isTrusted
-        onFix: section.model.fixAccessibility()
+        isGranted: section.permissions.isTrusted
+        onFix: section.permissions.fixAccessibility()
     }
 }

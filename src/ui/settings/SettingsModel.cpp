@@ -4,20 +4,59 @@
 #include "platform/PackagedInfo.h"
 #include "store/GroupStore.h"
 #include "store/TranscriptionStore.h"
+#include "ui/history/HistoryWindow.h"
+#include "ui/models/ShortcutProperties.h"
 
 #include <QQmlEngine>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
-SettingsModel::SettingsModel(TranscriptionStore &store, GroupStore &groups, const PackagedInfo &info,
-                             KeyMonitors &keyMonitors, const Shortcuts &shortcuts)
-    : m_store(store),
-      m_groups(groups),
-      m_version(info.string(u"CFBundleShortVersionString"_s).value_or(u"—"_s)),
-      m_recorders{{{keyMonitors, {shortcuts.disarm, shortcuts.arm, shortcuts.setShortcut}},
-                   {keyMonitors, {shortcuts.disarm, shortcuts.arm, shortcuts.setGroupShortcut}},
-                   {keyMonitors, {shortcuts.disarm, shortcuts.arm, shortcuts.setHistoryShortcut}}}}
+namespace {
+
+template <typename Table> QStringList labels(const Table &table)
 {
+    QStringList texts;
+    texts.reserve(static_cast<qsizetype>(table.size()));
+    for (const auto &row : table) {
+        texts.append(row.label());
+    }
+    return texts;
+}
+
+template <typename Table, typename Condition> int placeOf(const Table &table, Condition condition)
+{
+    const auto found = std::ranges::find_if(table, condition);
+    return found == table.end() ? -1 : static_cast<int>(found - table.begin());
+}
+
+template <typename Table> bool has(const Table &table, int place)
+{
+    return place >= 0 && place < static_cast<int>(table.size());
+}
+
+/// What the recorder of a shortcut does with it.
+ShortcutRecorder::Actions recording(ShortcutProperties &shortcuts, ShortcutProperties::Use use)
+{
+    return {[&shortcuts] { shortcuts.disarm(); }, [&shortcuts] { shortcuts.rearm(); },
+            [&shortcuts, use](const Shortcut &shortcut) { shortcuts.setShortcut(use, shortcut); }};
+}
+
+} // namespace
+
+SettingsModel::SettingsModel(ShortcutProperties &shortcuts, TranscriptionStore &store, GroupStore &groups,
+                             HistoryWindow &historyWindow, const PackagedInfo &info, KeyMonitors &keyMonitors)
+    : m_shortcuts(shortcuts),
+      m_store(store),
+      m_groups(groups),
+      m_historyWindow(historyWindow),
+      m_version(info.string(u"CFBundleShortVersionString"_s).value_or(u"—"_s)),
+      m_recorders{{{keyMonitors, recording(shortcuts, ShortcutProperties::Use::Dictation)},
+                   {keyMonitors, recording(shortcuts, ShortcutProperties::Use::Group)},
+                   {keyMonitors, recording(shortcuts, ShortcutProperties::Use::History)}}}
+{
+    connect(&shortcuts, &ShortcutProperties::shortcutsChanged, this, &SettingsModel::shortcutsChanged);
     connect(&store, &TranscriptionStore::itemsChanged, this, &SettingsModel::transcriptCountChanged);
     connect(&groups, &GroupStore::groupsChanged, this, &SettingsModel::groupsChanged);
     connect(&groups, &GroupStore::activeIdChanged, this, &SettingsModel::groupsChanged);
@@ -30,6 +69,51 @@ SettingsModel::SettingsModel(TranscriptionStore &store, GroupStore &groups, cons
             }
         });
     }
+}
+
+int SettingsModel::singleKey() const
+{
+    const ModifierKey *key = m_shortcuts.shortcut(ShortcutProperties::Use::Dictation).asModifier();
+    return key == nullptr ? -1 : placeOf(modifierKeys(), [key](const ModifierKeyInfo &row) { return row.key == *key; });
+}
+
+void SettingsModel::setSingleKey(int place)
+{
+    if (has(modifierKeys(), place)) {
+        const ModifierKey key = modifierKeys().at(static_cast<size_t>(place)).key;
+        m_shortcuts.setShortcut(ShortcutProperties::Use::Dictation, Shortcut::modifier(key));
+    } else {
+        m_shortcuts.useStandard(ShortcutProperties::Use::Dictation);
+    }
+}
+
+QStringList SettingsModel::singleKeyLabels()
+{
+    return labels(modifierKeys());
+}
+
+bool SettingsModel::isFnKey() const
+{
+    const ModifierKey *key = m_shortcuts.shortcut(ShortcutProperties::Use::Dictation).asModifier();
+    return key != nullptr && *key == ModifierKey::Fn;
+}
+
+int SettingsModel::triggerMode() const
+{
+    return placeOf(triggerModes(),
+                   [this](const TriggerModeInfo &row) { return row.mode == m_shortcuts.triggerMode(); });
+}
+
+void SettingsModel::setTriggerMode(int place)
+{
+    if (has(triggerModes(), place)) {
+        m_shortcuts.setTriggerMode(triggerModes().at(static_cast<size_t>(place)).mode);
+    }
+}
+
+QStringList SettingsModel::triggerModeLabels()
+{
+    return labels(triggerModes());
 }
 
 int SettingsModel::transcriptCount() const
@@ -51,4 +135,9 @@ QString SettingsModel::activeGroupName() const
 void SettingsModel::clearHistory()
 {
     m_store.clear();
+}
+
+void SettingsModel::editGroups()
+{
+    m_historyWindow.show(true);
 }

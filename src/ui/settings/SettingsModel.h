@@ -4,22 +4,32 @@
 #include "ui/settings/ShortcutRecorderModel.h"
 
 #include <QObject>
-#include <QString>
+#include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
 #include <array>
-#include <functional>
 
 class GroupStore;
+class HistoryWindow;
 class KeyMonitors;
 class PackagedInfo;
+class ShortcutProperties;
 class TranscriptionStore;
 
-/// What the settings window shows beside the controller's values. Main thread only.
+/// What the settings window shows beside the program's own properties: choices, counts and recorders. Main thread only.
 class SettingsModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The window makes it")
+    /// The single key's place in `singleKeyLabels`; -1 while the shortcut is a combination. Writing -1 makes it the
+    /// default combination.
+    Q_PROPERTY(int singleKey READ singleKey WRITE setSingleKey NOTIFY shortcutsChanged)
+    Q_PROPERTY(QStringList singleKeyLabels READ singleKeyLabels CONSTANT)
+    /// The single key is fn.
+    Q_PROPERTY(bool isFnKey READ isFnKey NOTIFY shortcutsChanged)
+    /// Place in `triggerModeLabels`.
+    Q_PROPERTY(int triggerMode READ triggerMode WRITE setTriggerMode NOTIFY shortcutsChanged)
+    Q_PROPERTY(QStringList triggerModeLabels READ triggerModeLabels CONSTANT)
     Q_PROPERTY(int transcriptCount READ transcriptCount NOTIFY transcriptCountChanged)
     Q_PROPERTY(int groupCount READ groupCount NOTIFY groupsChanged)
     /// Name of the active group, "All entries" without one.
@@ -30,21 +40,16 @@ class SettingsModel : public QObject {
     Q_PROPERTY(ShortcutRecorderModel *historyShortcutRecorder READ historyShortcutRecorder CONSTANT)
 
 public:
-    /// The controller's shortcuts. `disarm` switches all of them off, `arm` on again with their current values; the
-    /// others assign a new value.
-    struct Shortcuts {
-        using Setter = std::function<void(const Shortcut &)>;
+    SettingsModel(ShortcutProperties &shortcuts, TranscriptionStore &store, GroupStore &groups,
+                  HistoryWindow &historyWindow, const PackagedInfo &info, KeyMonitors &keyMonitors);
 
-        std::function<void()> disarm;
-        std::function<void()> arm;
-        Setter setShortcut;
-        Setter setGroupShortcut;
-        Setter setHistoryShortcut;
-    };
-
-    SettingsModel(TranscriptionStore &store, GroupStore &groups, const PackagedInfo &info, KeyMonitors &keyMonitors,
-                  const Shortcuts &shortcuts);
-
+    int singleKey() const;
+    void setSingleKey(int place);
+    static QStringList singleKeyLabels();
+    bool isFnKey() const;
+    int triggerMode() const;
+    void setTriggerMode(int place);
+    static QStringList triggerModeLabels();
     int transcriptCount() const;
     int groupCount() const;
     QString activeGroupName() const;
@@ -54,14 +59,19 @@ public:
     ShortcutRecorderModel *historyShortcutRecorder() { return &m_recorders[2]; }
 
     Q_INVOKABLE void clearHistory();
+    /// Opens the history window with the group editor in front.
+    Q_INVOKABLE void editGroups();
 
 Q_SIGNALS:
+    void shortcutsChanged();
     void transcriptCountChanged();
     void groupsChanged();
 
 private:
+    ShortcutProperties &m_shortcuts;
     TranscriptionStore &m_store;
     GroupStore &m_groups;
+    HistoryWindow &m_historyWindow;
     QString m_version;
     std::array<ShortcutRecorderModel, 3> m_recorders;
 };

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/settings/SettingsView.h"
 
+#include "ui/models/BalanceProperties.h"
+#include "ui/models/ShortcutProperties.h"
+#include "ui/settings/GeneralProperties.h"
+#include "ui/settings/PermissionProperties.h"
+#include "ui/settings/SettingsModel.h"
 #include "ui/windows/makeViewWindow.h"
 
 #include <QQuickItem>
@@ -35,14 +40,19 @@ void followContent(QQuickView &view)
 
 } // namespace
 
-std::unique_ptr<QWindow> SettingsView::makeWindow(QQmlEngine &engine, QObject &model, TranscriptionStore &store,
-                                                  GroupStore &groups, const PackagedInfo &info,
-                                                  KeyMonitors &keyMonitors, const SettingsModel::Shortcuts &shortcuts)
+std::unique_ptr<QWindow> SettingsView::makeWindow(QQmlEngine &engine, const Properties &properties,
+                                                  TranscriptionStore &store, GroupStore &groups,
+                                                  HistoryWindow &historyWindow, const PackagedInfo &info,
+                                                  KeyMonitors &keyMonitors)
 {
-    auto settings = std::make_unique<SettingsModel>(store, groups, info, keyMonitors, shortcuts);
-    auto view = makeViewWindow(
-        engine, u"settings/SettingsView"_s,
-        {{u"model"_s, QVariant::fromValue(&model)}, {u"settings"_s, QVariant::fromValue(settings.get())}});
+    auto settings =
+        std::make_unique<SettingsModel>(properties.shortcuts, store, groups, historyWindow, info, keyMonitors);
+    auto view = makeViewWindow(engine, u"settings/SettingsView"_s,
+                               {{u"shortcuts"_s, QVariant::fromValue(&properties.shortcuts)},
+                                {u"permissions"_s, QVariant::fromValue(&properties.permissions)},
+                                {u"general"_s, QVariant::fromValue(&properties.general)},
+                                {u"balance"_s, QVariant::fromValue(&properties.balance)},
+                                {u"settings"_s, QVariant::fromValue(settings.get())}});
     settings.release()->setParent(view.get());
     view->setResizeMode(QQuickView::SizeRootObjectToView);
     view->setTitle(u"Quillo Settings"_s);

@@ -1,21 +1,34 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/settings/SettingsModel.h"
-
 #include <memory>
 
-class QObject;
+class BalanceProperties;
+class GeneralProperties;
+class GroupStore;
+class HistoryWindow;
+class KeyMonitors;
+class PackagedInfo;
+class PermissionProperties;
 class QQmlEngine;
 class QWindow;
+class ShortcutProperties;
+class TranscriptionStore;
 
 /// The view SettingsView and the model behind it.
 namespace SettingsView {
 
-/// Makes the settings window with the view in it, not yet shown. `model` is the controller as views observe it;
-/// everything that is passed outlives the window.
-std::unique_ptr<QWindow> makeWindow(QQmlEngine &engine, QObject &model, TranscriptionStore &store, GroupStore &groups,
-                                    const PackagedInfo &info, KeyMonitors &keyMonitors,
-                                    const SettingsModel::Shortcuts &shortcuts);
+/// What the window shows and changes.
+struct Properties {
+    ShortcutProperties &shortcuts;
+    PermissionProperties &permissions;
+    GeneralProperties &general;
+    BalanceProperties &balance;
+};
+
+/// Makes the settings window with the view in it, not yet shown. Everything that is passed outlives the window.
+std::unique_ptr<QWindow> makeWindow(QQmlEngine &engine, const Properties &properties, TranscriptionStore &store,
+                                    GroupStore &groups, HistoryWindow &historyWindow, const PackagedInfo &info,
+                                    KeyMonitors &keyMonitors);
 
 } // namespace SettingsView

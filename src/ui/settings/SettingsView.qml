@@ -7,7 +7,10 @@ import Quillo
 Rectangle {
     id: view
 
-    required property var model
+    required property ShortcutProperties shortcuts
+    required property PermissionProperties permissions
+    required property GeneralProperties general
+    required property BalanceProperties balance
     required property SettingsModel settings
 
     implicitWidth: 500
@@ -38,9 +41,13 @@ Rectangle {
             width: scroller.width - 40
             spacing: 18
 
-            ShortcutSection { model: view.model; settings: view.settings }
-            GroupsSection { model: view.model; settings: view.settings }
-            PermissionsSection { model: view.model }
+            ShortcutSection {
+                shortcuts: view.shortcuts
+                permissions: view.permissions
+                settings: view.settings
+            }
+            GroupsSection { shortcuts: view.shortcuts; settings: view.settings }
+            PermissionsSection { permissions: view.permissions }
             FormSection {
                 title: "General"
 
@@ -48,16 +55,16 @@ Rectangle {
                     label: "Open at login"
 
                     SwitchControl {
-                        checked: view.model.launchesAtLogin
+                        checked: view.general.launchesAtLogin
                         onToggled: {
-                            view.model.launchesAtLogin = checked;
-                            checked = Qt.binding(() => view.model.launchesAtLogin);
+                            view.general.launchesAtLogin = checked;
+                            checked = Qt.binding(() => view.general.launchesAtLogin);
                         }
                         Accessible.name: "Open at login"
                     }
                 }
             }
-            DataSection { model: view.model }
+            DataSection { permissions: view.permissions; balance: view.balance }
             HistorySection { settings: view.settings }
         }
     }

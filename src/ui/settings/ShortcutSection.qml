@@ -6,9 +6,10 @@ import Quillo
 FormSection {
     id: section
 
-    required property var model
+    required property ShortcutProperties shortcuts
+    required property PermissionProperties permissions
     required property SettingsModel settings
-    readonly property bool isSingleKey: model.singleKey >= 0
+    readonly property bool isSingleKey: settings.singleKey >= 0
 
     title: "Shortcut"
     note: "Press Esc while recording to cancel."
@@ -20,7 +21,7 @@ FormSection {
             segments: ["Key combination", "Hold a single key"]
             selected: section.isSingleKey ? 1 : 0
             // The first single key, or the combination that the program comes with.
-            onChosen: index => section.model.singleKey = index === 1 ? 0 : -1
+            onChosen: index => section.settings.singleKey = index === 1 ? 0 : -1
             Accessible.name: "Trigger"
         }
     }
@@ -30,7 +31,7 @@ FormSection {
 
         ShortcutRecorder {
             recorder: section.settings.shortcutRecorder
-            shortcut: section.model.shortcutLabel
+            shortcut: section.shortcuts.dictationLabel
             title: "Shortcut"
         }
     }
@@ -39,18 +40,18 @@ FormSection {
         label: "Key"
 
         Picker {
-            model: section.model.singleKeyLabels
-            currentIndex: section.model.singleKey
-            onActivated: index => section.model.singleKey = index
+            model: section.settings.singleKeyLabels
+            currentIndex: section.settings.singleKey
+            onActivated: index => section.settings.singleKey = index
             Accessible.name: "Key"
         }
     }
     FormNote {
-        visible: section.model.isFnKey
+        visible: section.settings.isFnKey
         text: "Set System Settings › Keyboard › “Press 🌐 key to” to “Do Nothing”, or the emoji picker opens too."
     }
     FormNote {
-        visible: section.isSingleKey && !section.model.isTrusted
+        visible: section.isSingleKey && !section.permissions.isTrusted
         isWarning: true
         text: "A single key needs Accessibility (below) before it works."
     }
@@ -58,15 +59,15 @@ FormSection {
         label: "Behavior"
 
         Picker {
-            model: section.model.triggerModeLabels
-            currentIndex: section.model.triggerMode
-            onActivated: index => section.model.triggerMode = index
+            model: section.settings.triggerModeLabels
+            currentIndex: section.settings.triggerMode
+            onActivated: index => section.settings.triggerMode = index
             Accessible.name: "Behavior"
         }
     }
     FormNote {
         visible: text !== ""
         isWarning: true
-        text: section.model.shortcutError
+        text: section.shortcuts.dictationError
     }
 }

@@ -18,6 +18,13 @@ public:
     static const VirtualDisplay *display;
 
 protected:
+    explicit WindowsTest(bool hasRealHotKeys = false)
+        : windows{{.hotKeys = hasRealHotKeys ? &backend->hotKeys() : nullptr,
+                   .keyMonitors = &backend->keyMonitors(),
+                   .pasteboard = &backend->pasteboard()}}
+    {
+    }
+
     ViewDriver openHistory(bool editingGroups = false)
     {
         windows.history->show(editingGroups);
@@ -49,5 +56,5 @@ protected:
     FakeClock clock;
     QString whyNot;
     std::unique_ptr<X11Backend> backend = X11Backend::create(clock, TerminalClasses::defaults(), &whyNot);
-    Windows windows{&backend->pasteboard(), &backend->keyMonitors()};
+    Windows windows;
 };

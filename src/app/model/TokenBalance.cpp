@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "app/model/AppModel.h"
+#include "app/model/TokenBalance.h"
 
-#include "platform/Platform.h"
 #include "platform/Preferences.h"
 #include "platform/Workspace.h"
+#include "service/ApiClient.h"
+#include "ui/hud/RecordingHUD.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -13,19 +14,22 @@ namespace {
 constexpr auto purchasePollInterval = 5000ms;
 constexpr int mostPurchasePolls = 180; // a quarter of an hour to pay
 
+const QString freeGrantMissedKey = u"freeGrantMissed"_s;
+
 } // namespace
 
-void AppModel::refreshBalance()
+TokenBalance::TokenBalance(Clock &clock, const Preferences &preferences, Workspace &workspace, ApiClient &client,
+                           RecordingHUD &hud)
+    : m_clock(clock),
+      m_preferences(preferences),
+      m_workspace(workspace),
+      m_client(client),
+      m_hud(hud),
+      m_freeGrantMissed(preferences.boolean(freeGrantMissedKey))
 {
-    fetchBalance();
 }
 
-void AppModel::buyTokens()
-{
-    openCheckout();
-}
-
-void AppModel::setBalance(int64_t balance)
+void TokenBalance::setBalance(int64_t balance)
 {
     if (m_balance != balance) {
         m_balance = balance;
@@ -33,13 +37,23 @@ void AppModel::setBalance(int64_t balance)
     }
 }
 
-QCoro::Task<void> AppModel::fetchBalance()
+void TokenBalance::refresh()
+{
+    fetchBalance();
+}
+
+void TokenBalance::buyTokens()
+{
+    openCheckout();
+}
+
+QCoro::Task<void> TokenBalance::fetchBalance()
 {
     try {
         const Balance reply = co_await m_client.balance();
         m_isUnmetered = reply.unmetered;
         // The request may have registered the device, which is when this becomes known.
-        m_freeGrantMissed = m_platform.preferences.boolean(u"freeGrantMissed"_s);
+        m_freeGrantMissed = m_preferences.boolean(freeGrantMissedKey);
         m_balance = reply.balance;
         Q_EMIT balanceChanged();
     } catch (const LocalizedError &) {
@@ -47,30 +61,33 @@ QCoro::Task<void> AppModel::fetchBalance()
     }
 }
 
-QCoro::Task<void> AppModel::openCheckout()
+QCoro::Task<void> TokenBalance::openCheckout()
 {
     try {
         const QUrl link = co_await m_client.checkoutLink();
-        m_platform.workspace.open(link);
+        m_workspace.open(link);
     } catch (const LocalizedError &error) {
-        m_hud.show(HUDPhase::Message{error.localizedDescription(), true});
+        m_hud.notify(HUDPhase::Message{error.localizedDescription(), true});
         co_return;
     }
     ++m_purchaseWatchNumber;
     pollForPurchase(m_balance, 0);
 }
 
-void AppModel::pollForPurchase(std::optional<int64_t> startingBalance, int polls)
+void TokenBalance::pollForPurchase(std::optional<int64_t> startingBalance, int polls)
 {
     m_purchaseWatch = m_clock.after(purchasePollInterval, [this, startingBalance, polls] {
         checkForPurchase(startingBalance, polls, m_purchaseWatchNumber);
     });
 }
 
-QCoro::Task<void> AppModel::checkForPurchase(std::optional<int64_t> startingBalance, int polls, int watch)
+QCoro::Task<void> TokenBalance::checkForPurchase(std::optional<int64_t> startingBalance, int polls, int watch)
 {
     try {
         const Balance reply = co_await m_client.balance();
+        if (watch != m_purchaseWatchNumber) {
+            co_return; // a later purchase is watched instead
+        }
         setBalance(reply.balance);
         if (startingBalance && reply.balance > *startingBalance) {
             co_return;
