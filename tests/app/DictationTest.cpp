@@ -133,13 +133,17 @@ TEST_F(DictationTest, RepliesThatAreNoTextEndWithTheirNotice)
     }
 }
 
-TEST_F(DictationTest, WithoutTrustTheTextIsLeftForPasting)
+TEST_F(DictationTest, ATextThatCannotBePastedIsLeftOnTheClipboardOrSaidToBeInTheHistory)
 {
-    fake.accessibility.trusted = false;
     start();
+    fake.accessibility.trusted = false;
     dictate();
     EXPECT_EQ(phase(), message(u"Copied — press ⌘V to paste"_s));
     EXPECT_EQ(fake.pasteboard.string(), u"Hello there."_s);
+    fake.pasteboard.refuses = true;
+    dictate();
+    EXPECT_EQ(phase(), error(u"Couldn't paste. The text is in the history."_s));
+    EXPECT_EQ(model->store().items().size(), 2);
 }
 
 TEST_F(DictationTest, RecordingsThatAreTooShortOrEmptyAreNotSent)
@@ -198,6 +202,16 @@ TEST_F(DictationTest, TheTimeLimitAndALostMicrophoneFinishWithWhatWasHeard)
     EXPECT_EQ(model->state().value, Case::Transcribing);
     ASSERT_TRUE(awaitIdle());
     EXPECT_EQ(model->store().items().size(), 2);
+
+    fake.microphone.seconds = 0.1; // unplugged at once
+    press();
+    fake.microphone.current->end();
+    fake.clock.advance(0ms);
+    EXPECT_EQ(phase(), error(u"The microphone was disconnected."_s));
+    release();
+    model->setTriggerMode(TriggerMode::Hold);
+    dictate(); // a slip of the finger
+    EXPECT_FALSE(panel.isVisible);
 }
 
 TEST_F(DictationTest, TheMeterFollowsTheLevelWhileRecordingAndNothingIsTimedAfterwards)
@@ -247,17 +261,88 @@ TEST_F(DictationTest, GatesKeepARecordingFromStarting)
     EXPECT_TRUE(fake.files.recordings().isEmpty());
 }
 
-TEST_F(DictationTest, ADictationBegunDuringThePasteKeepsItsHud)
+TEST_F(DictationTest, TheEndOfAPasteHidesNothingThatCameMeanwhile)
+{
+    model->groups().add(u"Work"_s);
+    start();
+    const std::pair<std::function<void()>, std::optional<HUDModel::Phase>> table[]{
+        {[] {}, std::nullopt},
+        {[this] { model->cycleGroup(true); }, HUDPhase::Group{u"Work"_s}},
+        {[this] { press(); }, HUDPhase::Recording{false}},
+        {[this] {
+             press();
+             model->dictation().cancel();
+         },
+         message(u"Cancelled"_s)},
+    };
+    for (const auto &[meanwhile, expected] : table) {
+        fake.pasted.clear();
+        speak();
+        ASSERT_TRUE(await([this] { return !fake.pasted.isEmpty(); }));
+        meanwhile();
+        fake.clock.advance(400ms);
+        EXPECT_EQ(panel.isVisible, expected.has_value());
+        EXPECT_EQ(phase(), expected.value_or(phase()));
+        model->dictation().cancel();
+        release();
+    }
+}
+
+TEST_F(DictationTest, TwoAtOnceArriveInOrderAndTheUsersClipboardComesBack)
+{
+    int number = 0;
+    server.onRequest = [&, answer = server.onRequest](const HttpServer::Request &request) {
+        const QByteArray text = QByteArray::number(++number);
+        return request.path == "/v1/transcribe"
+                   ? HttpServer::Response{200, R"({"balance":9,"text":"said )" + text + "\"}"}
+                   : answer(request);
+    };
+    start();
+    number = 0;
+    fake.pasteboard.setString(u"the user's"_s);
+    fake.pasteboard.isSlow = true; // the first waits for what it is to put back
+    for (int i = 0; i < 2; ++i) {
+        speak();
+        ASSERT_TRUE(awaitIdle());
+    }
+    EXPECT_EQ(fake.pasted, QStringList());
+    EXPECT_EQ(phase(), HUDModel::Phase(HUDPhase::Transcribing{}));
+    fake.pasteboard.answer();
+    fake.clock.advance(400ms);
+    EXPECT_TRUE(panel.isVisible); // for the second
+    fake.clock.advance(400ms);
+    EXPECT_EQ(fake.pasted, (QStringList{u"said 1"_s, u"said 2"_s}));
+    EXPECT_EQ(fake.pasteboard.string(), u"the user's"_s);
+    EXPECT_FALSE(panel.isVisible);
+    EXPECT_EQ(model->store().items().size(), 2);
+}
+
+TEST_F(DictationTest, AReplyDuringAHoldIsPastedAfterTheRelease)
 {
     start();
-    press();
-    fake.clock.advance(1s);
+    speak();
+    press(); // too early for the next one
+    ASSERT_TRUE(awaitIdle());
+    fake.clock.advance(5s);
+    EXPECT_EQ(fake.pasted, QStringList());
     release();
-    ASSERT_TRUE(await([this] { return !fake.keyEvents.posted.empty(); }));
+    fake.clock.advance(1s);
+    EXPECT_EQ(fake.pasted, QStringList{u"Hello there."_s});
+}
+
+TEST_F(DictationTest, ANoticeDuringARecordingWaitsForItsEnd)
+{
+    start();
+    fake.workspace.hasPrivacySettings = false;
     press();
-    fake.clock.advance(400ms);
-    EXPECT_TRUE(panel.isVisible);
+    model->permissions().fixAccessibility();
     EXPECT_EQ(phase(), HUDModel::Phase(HUDPhase::Recording{false}));
+    model->dictation().cancel();
+    EXPECT_EQ(phase(), message(u"Cancelled"_s));
+    fake.clock.advance(2500ms);
+    EXPECT_EQ(phase(), error(u"Run “quillo doctor” to see what is missing"_s));
+    fake.clock.advance(2500ms);
+    EXPECT_FALSE(panel.isVisible);
 }
 
 TEST_F(DictationTest, EndingTheProgramLeavesNoRecordingBehind)
@@ -265,11 +350,7 @@ TEST_F(DictationTest, EndingTheProgramLeavesNoRecordingBehind)
     for (const bool isTranscribing : {false, true}) {
         make();
         start();
-        press();
-        fake.clock.advance(1s);
-        if (isTranscribing) {
-            release();
-        }
+        isTranscribing ? speak() : press();
         EXPECT_EQ(fake.files.recordings().size(), 1);
         model.reset();
         EXPECT_TRUE(fake.files.recordings().isEmpty());

@@ -66,6 +66,7 @@ TEST_F(SettingsTest, TheChoicesAreWhatTheirLabelsSay)
 {
     SettingsModel settings(model->shortcuts(), model->store(), model->groups(), model->historyWindow(),
                            fake.packagedInfo, fake.keyMonitors);
+    fake.keyMonitors.unseen = KeyCode::fn;
     int announced = 0;
     QObject::connect(&settings, &SettingsModel::shortcutsChanged, [&] { ++announced; });
     EXPECT_EQ(settings.singleKey(), -1);
@@ -76,6 +77,7 @@ TEST_F(SettingsTest, TheChoicesAreWhatTheirLabelsSay)
         EXPECT_EQ(model->shortcut().label(), keys.at(place));
         EXPECT_EQ(settings.singleKey(), place);
         EXPECT_EQ(settings.isFnKey(), place == 3);
+        EXPECT_EQ(settings.isKeyUnseen(), place == 3);
     }
     settings.setSingleKey(-1);
     EXPECT_EQ(model->shortcut().label(), u"⌃⌥ Space"_s);
@@ -161,6 +163,25 @@ TEST_F(SettingsTest, ATakenCombinationIsNamedAndTheOthersStillWork)
     model->setGroupShortcut(Shortcut::modifier(ModifierKey::Fn)); // no combination
     EXPECT_EQ(model->groupShortcutError(), u"Fn (🌐) is already in use. Pick a different shortcut."_s);
     EXPECT_TRUE(fake.hotKeys.isRegistered(KeyCode::h, controlOption));
+
+    fake.hotKeys.lose({{KeyCode::h, controlOption}}); // after a change of the layout
+    EXPECT_TRUE(model->historyShortcutError());
+    EXPECT_FALSE(model->shortcutError());
+}
+
+TEST_F(SettingsTest, WhatOneOfThemGivesUpIsThereForTheOthers)
+{
+    start();
+    const Shortcut dictation = model->shortcut();
+    model->setGroupShortcut(dictation);
+    EXPECT_TRUE(model->groupShortcutError());
+    model->setShortcut(f5);
+    EXPECT_FALSE(model->groupShortcutError());
+    model->setShortcut(dictation); // the group has it now, and keeps it
+    EXPECT_TRUE(model->shortcutError());
+    EXPECT_FALSE(model->groupShortcutError());
+    model->setGroupShortcut(f5);
+    EXPECT_FALSE(model->shortcutError());
 }
 
 TEST_F(SettingsTest, DisarmedShortcutsStayOffWhateverChangesAndTheDictationsComesBackFirst)

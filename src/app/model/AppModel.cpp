@@ -12,18 +12,19 @@ AppModel::AppModel(const Platform &platform, ApiClient &client, AIConsent &conse
     : m_consent(consent),
       m_store(platform.files, platform.clock),
       m_groups(platform.files, platform.preferences, platform.clock),
-      m_historyWindow(platform.application, platform.preferences, platform.screens,
-                      [this, make = std::move(views.history)](HistoryWindow &) { return make(*this); }),
-      m_consentWindow(consent, platform.preferences, platform.packagedInfo, platform.application, platform.screens, std::move(views.consent)),
-      m_settingsWindow(platform.application, platform.screens,
-                       [this, make = std::move(views.settings)] { return make(*this); }),
+      m_consentWindow(consent, platform.preferences, platform.packagedInfo, platform.application, platform.screens,
+                      std::move(views.consent)),
       m_recorder(platform.microphone, platform.files),
       m_hud(platform.clock, platform.screens, std::move(views.hud)),
       m_general(platform.loginItem, m_hud),
       m_permissions(platform, m_recorder, consent, m_consentWindow, m_hud),
       m_balance(platform.clock, platform.preferences, platform.workspace, client, m_hud),
       m_shortcuts(platform.hotKeys, platform.keyMonitors, platform.preferences, platform.accessibility),
-      m_dictation(platform, client, m_recorder, m_permissions, m_shortcuts, m_balance, m_store, m_groups, m_hud)
+      m_dictation(platform, client, m_recorder, m_permissions, m_shortcuts, m_balance, m_store, m_groups, m_hud),
+      m_historyWindow(platform.application, platform.preferences, platform.screens,
+                      [this, make = std::move(views.history)](HistoryWindow &) { return make(*this); }),
+      m_settingsWindow(platform.application, platform.screens,
+                       [this, make = std::move(views.settings)] { return make(*this); })
 {
     connectParts();
 }

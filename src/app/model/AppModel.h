@@ -102,9 +102,7 @@ private:
     const AIConsent &m_consent;
     TranscriptionStore m_store;
     GroupStore m_groups;
-    HistoryWindow m_historyWindow;
     ConsentWindow m_consentWindow;
-    SettingsWindow m_settingsWindow;
     AudioRecorder m_recorder;
     RecordingHUD m_hud;
     GeneralSettings m_general;
@@ -112,4 +110,7 @@ private:
     TokenBalance m_balance;
     Shortcuts m_shortcuts;
     Dictation m_dictation;
+    // Last, so that they go first: their views watch the others.
+    HistoryWindow m_historyWindow;
+    SettingsWindow m_settingsWindow;
 };

@@ -4,7 +4,6 @@
 #include "app/model/Permissions.h"
 #include "app/model/Shortcuts.h"
 #include "app/model/TokenBalance.h"
-#include "audio/AudioRecorder.h"
 #include "platform/KeyCodes.h"
 #include "platform/Platform.h"
 #include "platform/Workspace.h"
@@ -128,10 +127,14 @@ void Dictation::begin()
         return;
     }
     Clock &clock = m_platform.clock;
+    m_hasLostMicrophone = false;
     try {
         // A microphone that goes away ends the recording like the time limit does, with what was heard. Deferred: the
         // recorder that reports it is destroyed by what follows.
-        m_recorder.start([this, &clock] { m_limitTask = clock.after(0ms, [this] { finish(); }); });
+        m_recorder.start([this, &clock] {
+            m_hasLostMicrophone = true;
+            m_limitTask = clock.after(0ms, [this] { finish(); });
+        });
     } catch (const LocalizedError &error) {
         m_hud.show(problem(error.localizedDescription()));
         return;
@@ -186,20 +189,29 @@ void Dictation::finish()
     }
     endRecording();
     const std::optional<Recording> recording = m_recorder.stop();
-    if (!recording) {
-        setState({});
-        m_hud.show(problem(u"Nothing was recorded. Check the microphone."_s));
-        return;
-    }
-    if (recording->seconds < minimumSeconds) {
-        AudioRecorder::discard(recording->path);
-        setState({});
-        m_hud.hide();
+    if (!recording || recording->seconds < minimumSeconds) {
+        dropRecording(recording);
         return;
     }
     setState({State::Case::Transcribing});
     m_hud.show(HUDPhase::Transcribing{});
     transcribe(recording->path, m_groups.activeId());
+}
+
+/// What is too short to say anything is no reason for a message, unless the user did not end it.
+void Dictation::dropRecording(const std::optional<Recording> &recording)
+{
+    if (recording) {
+        AudioRecorder::discard(recording->path);
+    }
+    setState({});
+    if (m_hasLostMicrophone) {
+        m_hud.show(problem(u"The microphone was disconnected."_s));
+    } else if (recording) {
+        m_hud.hide();
+    } else {
+        m_hud.show(problem(u"Nothing was recorded. Check the microphone."_s));
+    }
 }
 
 void Dictation::cancel(bool silently)
@@ -282,6 +294,8 @@ QCoro::Task<void> Dictation::deliver(QString text, std::optional<QString> groupI
     }
     if (outcome == TextInserter::Outcome::Copied) {
         m_hud.notify(notice(u"Copied — press ⌘V to paste"_s));
+    } else if (outcome == TextInserter::Outcome::Refused) {
+        m_hud.notify(problem(u"Couldn't paste. The text is in the history."_s));
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "audio/AudioRecorder.h"
 #include "output/TextInserter.h"
 #include "platform/Clock.h"
 #include "shortcuts/CarbonHotKey.h"
@@ -14,7 +15,6 @@
 #include <optional>
 
 class ApiClient;
-class AudioRecorder;
 class GroupStore;
 class LocalizedError;
 class Permissions;
@@ -71,6 +71,7 @@ private:
     QCoro::Task<void> askForMicrophone();
     void continueHandsFree();
     void finish();
+    void dropRecording(const std::optional<Recording> &recording);
     void cancel(bool silently);
     void endRecording();
     void tickMeter();
@@ -95,5 +96,6 @@ private:
     std::unique_ptr<Clock::Timer> m_meterTimer;
     std::unique_ptr<Clock::Timer> m_limitTask;
     QSet<QString> m_uploads; ///< recordings whose transcript is awaited
-    int m_deliveries = 0;    ///< texts on their way into the program in front
+    bool m_hasLostMicrophone = false;
+    int m_deliveries = 0; ///< texts on their way into the program in front
 };

@@ -50,6 +50,15 @@ Shortcuts::Shortcuts(HotKeys &hotKeys, KeyMonitors &keyMonitors, Preferences &pr
                 Entry{stored(preferences, Use::History), {}, {}}},
       m_triggerMode(storedTriggerMode(preferences))
 {
+    m_hotKeys.setLostHandler([this] {
+        armShortcut();
+        armWindowShortcuts();
+    });
+}
+
+Shortcuts::~Shortcuts()
+{
+    m_hotKeys.setLostHandler(nullptr);
 }
 
 Shortcut Shortcuts::standard(Use use)
@@ -84,6 +93,7 @@ void Shortcuts::setShortcut(Use use, const Shortcut &shortcut)
     } else {
         armWindowShortcuts();
     }
+    retryRefused();
     if (isChanged) {
         Q_EMIT shortcutsChanged();
     }
@@ -119,6 +129,17 @@ void Shortcuts::armWindowShortcuts()
     at(Use::History).hotKey.reset();
     armWindowShortcut(Use::Group, &Shortcuts::groupPressed);
     armWindowShortcut(Use::History, &Shortcuts::historyPressed);
+}
+
+/// What one of ours had before the change may be what another of ours has been waiting for.
+void Shortcuts::retryRefused()
+{
+    if (at(Use::Dictation).error) {
+        armShortcut();
+    }
+    if (at(Use::Group).error || at(Use::History).error) {
+        armWindowShortcuts();
+    }
 }
 
 void Shortcuts::armWindowShortcut(Use use, void (Shortcuts::*pressed)())

@@ -20,6 +20,9 @@ class Shortcuts : public ShortcutProperties {
 
 public:
     Shortcuts(HotKeys &hotKeys, KeyMonitors &keyMonitors, Preferences &preferences, Accessibility &accessibility);
+    Shortcuts(const Shortcuts &) = delete;
+    Shortcuts &operator=(const Shortcuts &) = delete;
+    ~Shortcuts() override;
 
     /// What holds while nothing readable is stored.
     static Shortcut standard(Use use);
@@ -53,6 +56,7 @@ private:
 
     Entry &at(Use use) { return m_entries[static_cast<size_t>(use)]; }
     const Entry &at(Use use) const { return m_entries[static_cast<size_t>(use)]; }
+    void retryRefused();
     void armWindowShortcut(Use use, void (Shortcuts::*pressed)());
     void setError(Use use, const std::optional<QString> &error);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/settings/SettingsModel.h"
 
+#include "platform/KeyMonitors.h"
 #include "platform/PackagedInfo.h"
 #include "store/GroupStore.h"
 #include "store/TranscriptionStore.h"
@@ -46,12 +47,13 @@ ShortcutRecorder::Actions recording(ShortcutProperties &shortcuts, ShortcutPrope
 } // namespace
 
 SettingsModel::SettingsModel(ShortcutProperties &shortcuts, TranscriptionStore &store, GroupStore &groups,
-                             HistoryWindow &historyWindow, const PackagedInfo &info, KeyMonitors &keyMonitors)
+                             HistoryWindow &historyWindow, const PackagedInfo &packagedInfo, KeyMonitors &keyMonitors)
     : m_shortcuts(shortcuts),
+      m_keyMonitors(keyMonitors),
       m_store(store),
       m_groups(groups),
       m_historyWindow(historyWindow),
-      m_version(info.string(u"CFBundleShortVersionString"_s).value_or(u"—"_s)),
+      m_version(packagedInfo.string(u"CFBundleShortVersionString"_s).value_or(u"—"_s)),
       m_recorders{{{keyMonitors, recording(shortcuts, ShortcutProperties::Use::Dictation)},
                    {keyMonitors, recording(shortcuts, ShortcutProperties::Use::Group)},
                    {keyMonitors, recording(shortcuts, ShortcutProperties::Use::History)}}}
@@ -96,6 +98,12 @@ bool SettingsModel::isFnKey() const
 {
     const ModifierKey *key = m_shortcuts.shortcut(ShortcutProperties::Use::Dictation).asModifier();
     return key != nullptr && *key == ModifierKey::Fn;
+}
+
+bool SettingsModel::isKeyUnseen() const
+{
+    const ModifierKey *key = m_shortcuts.shortcut(ShortcutProperties::Use::Dictation).asModifier();
+    return key != nullptr && !m_keyMonitors.canSee(info(*key).keyCode);
 }
 
 int SettingsModel::triggerMode() const

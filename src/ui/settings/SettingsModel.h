@@ -27,6 +27,8 @@ class SettingsModel : public QObject {
     Q_PROPERTY(QStringList singleKeyLabels READ singleKeyLabels CONSTANT)
     /// The single key is fn.
     Q_PROPERTY(bool isFnKey READ isFnKey NOTIFY shortcutsChanged)
+    /// The keyboard or the desktop keeps the single key to itself.
+    Q_PROPERTY(bool isKeyUnseen READ isKeyUnseen NOTIFY shortcutsChanged)
     /// Place in `triggerModeLabels`.
     Q_PROPERTY(int triggerMode READ triggerMode WRITE setTriggerMode NOTIFY shortcutsChanged)
     Q_PROPERTY(QStringList triggerModeLabels READ triggerModeLabels CONSTANT)
@@ -47,6 +49,7 @@ public:
     void setSingleKey(int place);
     static QStringList singleKeyLabels();
     bool isFnKey() const;
+    bool isKeyUnseen() const;
     int triggerMode() const;
     void setTriggerMode(int place);
     static QStringList triggerModeLabels();
@@ -69,6 +72,7 @@ Q_SIGNALS:
 
 private:
     ShortcutProperties &m_shortcuts;
+    const KeyMonitors &m_keyMonitors;
     TranscriptionStore &m_store;
     GroupStore &m_groups;
     HistoryWindow &m_historyWindow;

@@ -47,8 +47,13 @@ FormSection {
         }
     }
     FormNote {
-        visible: section.settings.isFnKey
+        visible: section.settings.isFnKey && !section.settings.isKeyUnseen
         text: "Set System Settings › Keyboard › “Press 🌐 key to” to “Do Nothing”, or the emoji picker opens too."
+    }
+    FormNote {
+        visible: section.settings.isKeyUnseen
+        isWarning: true
+        text: "This key doesn't arrive here: the keyboard or the desktop keeps it to itself. Choose another one."
     }
     FormNote {
         visible: section.isSingleKey && !section.permissions.isTrusted

@@ -18,9 +18,9 @@ public:
     static const VirtualDisplay *display;
 
 protected:
-    explicit WindowsTest(bool hasRealHotKeys = false)
-        : windows{{.hotKeys = hasRealHotKeys ? &backend->hotKeys() : nullptr,
-                   .keyMonitors = &backend->keyMonitors(),
+    explicit WindowsTest(bool hasRealKeys = false)
+        : windows{{.hotKeys = hasRealKeys ? &backend->hotKeys() : nullptr,
+                   .keyMonitors = hasRealKeys ? &backend->keyMonitors() : nullptr,
                    .pasteboard = &backend->pasteboard()}}
     {
     }

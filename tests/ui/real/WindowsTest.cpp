@@ -41,6 +41,8 @@ TEST_F(WindowsTest, SettingsShowTheRowsThatTheStateAsksFor)
     const QString warning = u"A single key needs Accessibility (below) before it works."_s;
     const QString note =
         u"Set System Settings › Keyboard › “Press 🌐 key to” to “Do Nothing”, or the emoji picker opens too."_s;
+    const QString unseen =
+        u"This key doesn't arrive here: the keyboard or the desktop keeps it to itself. Choose another one."_s;
     const QString taken = u"⌃⌥ G is already in use. Pick a different shortcut."_s;
     struct Row {
         std::function<void()> change;
@@ -51,7 +53,13 @@ TEST_F(WindowsTest, SettingsShowTheRowsThatTheStateAsksFor)
         {[] {}, {u"⌃⌥ Space"_s, u"⌃⌥ G"_s, u"⌃⌥ H"_s, u"4821"_s, u"Version —"_s}, {u"Key"_s, warning, note, u"Off"_s}},
         {[&] { model.setShortcut(Shortcut::modifier(ModifierKey::Fn)); },
          {u"Key"_s, u"Fn (🌐)"_s, note},
-         {u"⌃⌥ Space"_s, u"Allow…"_s, warning}},
+         {u"⌃⌥ Space"_s, u"Allow…"_s, warning, unseen}},
+        {[&] {
+             fake.keyMonitors.unseen = KeyCode::rightOption;
+             model.setShortcut(Shortcut::modifier(ModifierKey::RightOption));
+         },
+         {unseen},
+         {note}},
         {[&] {
              fake.accessibility.trusted = false;
              fake.clock.advance(std::chrono::seconds(2));
