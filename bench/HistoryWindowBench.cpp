@@ -192,9 +192,9 @@ void measureWindow(const QByteArray &history)
     HistoryWindow window(
         windows.fake.application, windows.fake.preferences, windows.fake.screens, [&](HistoryWindow &owner) {
             AppModel &model = *windows.model;
-            auto made =
-                HistoryView::makeWindow(windows.engine, {model.dictation(), model.shortcuts(), model.tokenBalance()},
-                                        store, windows.groups, owner, windows.fake.pasteboard, windows.fake.clock);
+            auto made = HistoryView::makeWindow(
+                windows.engine, {model.dictation(), model.shortcuts(), model.tokenBalance(), model.unsent()}, store,
+                windows.groups, owner, windows.fake.pasteboard, windows.fake.clock);
             view = qobject_cast<QQuickView *>(made.get());
             return made;
         });

@@ -47,11 +47,15 @@ ApiError failure(const HttpResponse &response)
             response.status};
 }
 
+// A connection used this recently is open still, and will be when the dictation ends that begins now.
+constexpr Clock::Duration freshness = std::chrono::seconds(4);
+
 } // namespace
 
 ApiClient::ApiClient(Preferences &preferences, const PackagedInfo &info, SecretStore &secrets, const AIConsent &consent,
                      Clock &clock, std::chrono::milliseconds timeout)
-    : m_secrets(secrets),
+    : m_clock(clock),
+      m_secrets(secrets),
       m_consent(consent),
       m_transport(timeout),
       m_baseUrl(baseUrl(preferences, info)),
@@ -110,6 +114,24 @@ QCoro::Task<Balance> ApiClient::balance()
     co_return co_await send<Balance>(std::move(call));
 }
 
+void ApiClient::prepareConnection()
+{
+    const bool isOpen = m_clock.now() - m_lastExchange < freshness;
+    if (m_consent.isCurrent() && m_device.known() && !isOpen) {
+        warmConnection();
+    }
+}
+
+QCoro::Task<void> ApiClient::warmConnection()
+{
+    Call call{u"/v1/balance"_s, "GET"};
+    try {
+        co_await exchange(std::move(call), m_device.known());
+    } catch (const LocalizedError &) {
+        co_return; // the upload will find out for itself
+    }
+}
+
 QCoro::Task<QUrl> ApiClient::checkoutLink()
 {
     if (m_baseUrl) {
@@ -164,6 +186,7 @@ QCoro::Task<HttpResponse> ApiClient::exchange(Call call, std::optional<QString> 
     if (!response) {
         throw ApiError::network();
     }
+    m_lastExchange = m_clock.now();
     co_return *response;
 }
 

@@ -42,6 +42,10 @@ public:
 
     QCoro::Task<Balance> balance();
 
+    /// Sees to it that an upload that comes soon finds an open connection: asks for the balance, for the sake of the
+    /// exchange alone. Does nothing where one has just been made, without consent, and before the credential is known.
+    void prepareConnection();
+
     /// The page where tokens are bought, for a person who asked for it: a locked keychain has the desktop ask for its
     /// password. An error as long as the device they are for would be lost with this process.
     QCoro::Task<QUrl> checkoutLink();
@@ -59,11 +63,14 @@ private:
     template <typename Record> QCoro::Task<Record> send(Call call, bool retried = false);
     QCoro::Task<HttpResponse> exchange(Call call, std::optional<QString> credential);
     QCoro::Task<Registration> registerDevice();
+    QCoro::Task<void> warmConnection();
     QCoro::Task<std::optional<int64_t>> tokens(QString credential);
 
+    Clock &m_clock;
     SecretStore &m_secrets;
     const AIConsent &m_consent;
     HttpTransport m_transport;
+    Clock::Instant m_lastExchange;
     std::optional<QUrl> m_baseUrl;
     DeviceCredential m_device;
 };

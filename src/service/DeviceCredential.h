@@ -43,6 +43,9 @@ public:
     /// The backend has refused it: the next `get` registers anew, unless that has happened meanwhile.
     QCoro::Task<void> forget(QString refused);
 
+    /// The copy in memory, if there is one yet.
+    const std::optional<QString> &known() const { return m_credential; }
+
     /// False while a restart would lose the device.
     bool isKept() const { return m_isKept; }
 

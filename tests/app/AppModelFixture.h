@@ -58,6 +58,15 @@ protected:
         release();
     }
 
+    /// Speaks to a server that takes the recording and never answers.
+    void speakToSilence()
+    {
+        const int before = server.count("/v1/transcribe");
+        transcript.ending = HttpServer::Response::Ending::NeverReply;
+        speak();
+        ASSERT_TRUE(await([&] { return server.count("/v1/transcribe") > before; }));
+    }
+
     bool awaitIdle()
     {
         return await([this] { return model->state().value == Case::Idle; });

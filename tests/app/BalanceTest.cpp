@@ -115,6 +115,7 @@ TEST_F(BalanceTest, FailuresOfTheCheckoutAreShownAndThoseOfARefreshAreNot)
     };
     const int before = server.count("/v1/balance");
     model->refreshBalance();
+    model->refreshBalance(); // while it is under way: nothing
     ASSERT_TRUE(await([&] { return server.count("/v1/balance") > before; }));
     model->hud().model().buyTokens(); // as its button does
     EXPECT_FALSE(panel.isVisible);
@@ -122,5 +123,18 @@ TEST_F(BalanceTest, FailuresOfTheCheckoutAreShownAndThoseOfARefreshAreNot)
     EXPECT_EQ(phase(), error(u"The shop is closed."_s));
     EXPECT_TRUE(fake.workspace.opened.isEmpty());
     EXPECT_EQ(model->balance(), 10);
+    EXPECT_EQ(server.count("/v1/balance"), before + 1);
+
+    const HUDModel::Phase noBrowser = error(u"Couldn't open the checkout page in a browser"_s);
+    for (const char *url : {"file:///etc/passwd", "https://pay.example/1"}) {
+        fake.workspace.hasBrowser = false;
+        server.onRequest = [url](const HttpServer::Request &) {
+            return HttpServer::Response{200, QByteArray(R"({"url":")") + url + "\"}"};
+        };
+        model->hud().hide();
+        model->buyTokens();
+        EXPECT_TRUE(await([&] { return panel.isVisible && phase() == noBrowser; }));
+    }
+    EXPECT_EQ(fake.workspace.opened, QList<QUrl>{QUrl(u"https://pay.example/1"_s)}); // was tried
     EXPECT_TRUE(hasEnded());
 }

@@ -98,6 +98,35 @@ TEST_F(DictationTest, TheGroupIsTheOneActiveWhenTheRecordingEnds)
     ASSERT_TRUE(awaitIdle());
     EXPECT_EQ(model->store().items().first().categoryId, second);
     EXPECT_FALSE(model->groups().activeId());
+
+    model->groups().setActiveId(second);
+    speak();
+    model->groups().remove(second); // before the reply
+    ASSERT_TRUE(awaitIdle());
+    EXPECT_FALSE(model->store().items().first().categoryId);
+}
+
+TEST_F(DictationTest, TheConnectionIsMadeReadyWhileThePersonSpeaks)
+{
+    client->prepareConnection(); // without a credential: nothing
+    EXPECT_TRUE(server.requests().isEmpty());
+    start();
+    const int before = server.count("/v1/balance");
+    balance = 77;
+    fake.clock.advance(5s);
+    press();
+    EXPECT_TRUE(await([&] { return server.count("/v1/balance") == before + 1; }));
+    fake.clock.advance(15s);
+    EXPECT_TRUE(await([&] { return server.count("/v1/balance") == before + 2; }));
+    release();
+    ASSERT_TRUE(awaitIdle());
+    EXPECT_EQ(model->balance(), 9);
+    fake.clock.advance(1s);
+    client->prepareConnection(); // one has just been used
+    consent.withdraw();
+    fake.clock.advance(1min);
+    client->prepareConnection();
+    EXPECT_EQ(server.count("/v1/balance"), before + 2);
 }
 
 TEST_F(DictationTest, RepliesThatAreNoTextEndWithTheirNotice)
@@ -144,6 +173,13 @@ TEST_F(DictationTest, ATextThatCannotBePastedIsLeftOnTheClipboardOrSaidToBeInThe
     dictate();
     EXPECT_EQ(phase(), error(u"Couldn't paste. The text is in the history."_s));
     EXPECT_EQ(model->store().items().size(), 2);
+
+    fake.pasteboard.refuses = false;
+    fake.accessibility.trusted = true;
+    fake.files.failsToWrite = true;
+    dictate();
+    EXPECT_EQ(fake.pasted, QStringList{u"Hello there."_s});
+    EXPECT_EQ(phase(), error(u"Kept in memory: the history can't be saved"_s));
 }
 
 TEST_F(DictationTest, RecordingsThatAreTooShortOrEmptyAreNotSent)
@@ -350,7 +386,7 @@ TEST_F(DictationTest, EndingTheProgramLeavesNoRecordingBehind)
     for (const bool isTranscribing : {false, true}) {
         make();
         start();
-        isTranscribing ? speak() : press();
+        isTranscribing ? speakToSilence() : press();
         EXPECT_EQ(fake.files.recordings().size(), 1);
         model.reset();
         EXPECT_TRUE(fake.files.recordings().isEmpty());

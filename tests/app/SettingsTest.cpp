@@ -64,8 +64,8 @@ TEST_F(SettingsTest, PreferencesThatMeanNothingGiveTheDefaults)
 
 TEST_F(SettingsTest, TheChoicesAreWhatTheirLabelsSay)
 {
-    SettingsModel settings(model->shortcuts(), model->store(), model->groups(), model->historyWindow(),
-                           fake.packagedInfo, fake.keyMonitors);
+    SettingsModel settings(
+        model->shortcuts(), model->store(), model->groups(), [] {}, fake.packagedInfo, fake.keyMonitors);
     fake.keyMonitors.unseen = KeyCode::fn;
     int announced = 0;
     QObject::connect(&settings, &SettingsModel::shortcutsChanged, [&] { ++announced; });

@@ -16,11 +16,13 @@ AppModel::AppModel(const Platform &platform, ApiClient &client, AIConsent &conse
                       std::move(views.consent)),
       m_recorder(platform.microphone, platform.files),
       m_hud(platform.clock, platform.screens, std::move(views.hud)),
-      m_general(platform.loginItem, m_hud),
+      m_general(platform.loginItem, platform.preferences, m_hud),
       m_permissions(platform, m_recorder, consent, m_consentWindow, m_hud),
       m_balance(platform.clock, platform.preferences, platform.workspace, client, m_hud),
+      m_unsent(platform, client, m_store, m_groups, m_balance),
       m_shortcuts(platform.hotKeys, platform.keyMonitors, platform.preferences, platform.accessibility),
-      m_dictation(platform, client, m_recorder, m_permissions, m_shortcuts, m_balance, m_store, m_groups, m_hud),
+      m_dictation(platform, client, m_recorder, m_permissions, m_shortcuts, m_balance, m_unsent, m_store, m_groups,
+                  m_hud),
       m_historyWindow(platform.application, platform.preferences, platform.screens,
                       [this, make = std::move(views.history)](HistoryWindow &) { return make(*this); }),
       m_settingsWindow(platform.application, platform.screens,
@@ -35,6 +37,8 @@ void AppModel::connectParts()
     connect(&m_shortcuts, &Shortcuts::historyPressed, &m_historyWindow, &HistoryWindow::toggle);
     connect(&m_permissions, &Permissions::trustChanged, &m_shortcuts, &Shortcuts::armShortcut);
     connect(&m_permissions, &Permissions::consentGranted, &m_balance, &TokenBalance::refresh);
+    connect(&m_store, &FileStore::noticeChanged, this, [this] { tell(m_store); });
+    connect(&m_groups, &FileStore::noticeChanged, this, [this] { tell(m_groups); });
 
     connect(&m_dictation, &Dictation::stateChanged, this, &AppModel::stateChanged);
     connect(&m_dictation, &Dictation::statusTextChanged, this, &AppModel::statusTextChanged);
@@ -55,10 +59,20 @@ void AppModel::start()
     armShortcut();
     armWindowShortcuts();
     m_permissions.watch();
+    tell(m_store);
+    tell(m_groups);
     if (m_consent.isCurrent()) {
         refreshBalance();
     } else {
         showConsent(false);
+    }
+}
+
+/// What is wrong with a file of the user's, as soon as it is known and once for each cause.
+void AppModel::tell(const FileStore &file)
+{
+    if (const QString notice = file.notice(); !notice.isEmpty()) {
+        m_hud.notify(HUDPhase::Message{notice, true});
     }
 }
 

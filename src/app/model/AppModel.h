@@ -6,6 +6,7 @@
 #include "app/model/Permissions.h"
 #include "app/model/Shortcuts.h"
 #include "app/model/TokenBalance.h"
+#include "app/model/UnsentRecordings.h"
 #include "audio/AudioRecorder.h"
 #include "store/GroupStore.h"
 #include "store/TranscriptionStore.h"
@@ -85,6 +86,7 @@ public:
     Permissions &permissions() { return m_permissions; }
     TokenBalance &tokenBalance() { return m_balance; }
     GeneralSettings &general() { return m_general; }
+    UnsentRecordings &unsent() { return m_unsent; }
 
 Q_SIGNALS:
     void stateChanged();
@@ -98,6 +100,7 @@ Q_SIGNALS:
 
 private:
     void connectParts();
+    void tell(const FileStore &file);
 
     const AIConsent &m_consent;
     TranscriptionStore m_store;
@@ -108,6 +111,7 @@ private:
     GeneralSettings m_general;
     Permissions m_permissions;
     TokenBalance m_balance;
+    UnsentRecordings m_unsent;
     Shortcuts m_shortcuts;
     Dictation m_dictation;
     // Last, so that they go first: their views watch the others.

@@ -4,6 +4,7 @@
 #include "app/model/Permissions.h"
 #include "app/model/Shortcuts.h"
 #include "app/model/TokenBalance.h"
+#include "app/model/UnsentRecordings.h"
 #include "platform/KeyCodes.h"
 #include "platform/Platform.h"
 #include "platform/Workspace.h"
@@ -22,6 +23,9 @@ namespace {
 
 constexpr auto meterPeriod = 50ms;
 
+// How often the connection for the upload is used while the user speaks. It is closed when it has been idle for 20 s.
+constexpr auto connectionPeriod = 15s;
+
 // The meter is empty at -50 dB and below, full at 0 dB, and linear in between.
 constexpr float meterRange = 50;
 
@@ -38,14 +42,15 @@ HUDPhase::Message problem(const QString &text)
 } // namespace
 
 Dictation::Dictation(const Platform &platform, ApiClient &client, AudioRecorder &recorder, Permissions &permissions,
-                     const Shortcuts &shortcuts, TokenBalance &balance, TranscriptionStore &store,
-                     const GroupStore &groups, RecordingHUD &hud)
+                     const Shortcuts &shortcuts, TokenBalance &balance, UnsentRecordings &unsent,
+                     TranscriptionStore &store, const GroupStore &groups, RecordingHUD &hud)
     : m_platform(platform),
       m_client(client),
       m_recorder(recorder),
       m_permissions(permissions),
       m_shortcuts(shortcuts),
       m_balance(balance),
+      m_unsent(unsent),
       m_store(store),
       m_groups(groups),
       m_hud(hud),
@@ -57,8 +62,17 @@ Dictation::Dictation(const Platform &platform, ApiClient &client, AudioRecorder 
 
 Dictation::~Dictation()
 {
-    m_recorder.cancel();
-    std::ranges::for_each(m_uploads, &AudioRecorder::discard);
+    const std::optional<Recording> recording = m_recorder.stop();
+    if (recording && recording->seconds >= minimumSeconds) {
+        m_uploads.insert(recording->path, m_groups.activeId());
+    } else if (recording) {
+        AudioRecorder::discard(recording->path);
+    }
+    for (auto upload = m_uploads.cbegin(); upload != m_uploads.cend(); ++upload) {
+        if (!m_unsent.keep(upload.key(), upload.value())) {
+            AudioRecorder::discard(upload.key());
+        }
+    }
 }
 
 QString Dictation::statusText() const
@@ -148,6 +162,8 @@ void Dictation::begin()
     });
     m_meterTimer = clock.every(meterPeriod, [this] { tickMeter(); });
     m_limitTask = clock.after(maximumDuration, [this] { finish(); });
+    m_client.prepareConnection();
+    m_connectionTimer = clock.every(connectionPeriod, [this] { m_client.prepareConnection(); });
 }
 
 bool Dictation::mayRecord()
@@ -234,6 +250,7 @@ void Dictation::endRecording()
     m_escapeKey.reset();
     m_meterTimer.reset();
     m_limitTask.reset();
+    m_connectionTimer.reset();
 }
 
 void Dictation::tickMeter()
@@ -249,13 +266,17 @@ void Dictation::tickMeter()
 
 QCoro::Task<void> Dictation::transcribe(QString path, std::optional<QString> groupId)
 {
-    m_uploads.insert(path);
+    m_uploads.insert(path, groupId);
     std::optional<Transcript> transcript;
     try {
         transcript = co_await m_client.transcribe(path);
     } catch (const LocalizedError &error) {
         setState({});
         showRefusal(error);
+        const auto *refusal = dynamic_cast<const ApiError *>(&error);
+        if (refusal != nullptr && UnsentRecordings::isWorthAnotherTry(*refusal)) {
+            m_unsent.keep(path, groupId);
+        }
     }
     if (transcript) {
         m_balance.setBalance(transcript->balance);
@@ -283,7 +304,8 @@ QCoro::Task<void> Dictation::deliver(QString text, std::optional<QString> groupI
         m_hud.show(problem(u"Didn't catch anything"_s));
         co_return;
     }
-    m_store.add(text, groupId);
+    // The group may have been deleted since.
+    m_store.add(text, m_groups.group(groupId) ? groupId : std::nullopt);
     setState({});
     ++m_deliveries;
     const TextInserter::Outcome outcome = co_await m_inserter.insert(text);

@@ -9,7 +9,7 @@
 #include "ui/models/DictationProperties.h"
 
 #include <QCoroTask>
-#include <QSet>
+#include <QHash>
 
 #include <memory>
 #include <optional>
@@ -22,6 +22,7 @@ class RecordingHUD;
 class Shortcuts;
 class TokenBalance;
 class TranscriptionStore;
+class UnsentRecordings;
 struct Platform;
 
 /// One dictation after the other: the recording, its way to the backend, and that of the text to the history and the
@@ -46,11 +47,11 @@ public:
     static constexpr std::chrono::seconds maximumDuration{900};
 
     Dictation(const Platform &platform, ApiClient &client, AudioRecorder &recorder, Permissions &permissions,
-              const Shortcuts &shortcuts, TokenBalance &balance, TranscriptionStore &store, const GroupStore &groups,
-              RecordingHUD &hud);
+              const Shortcuts &shortcuts, TokenBalance &balance, UnsentRecordings &unsent, TranscriptionStore &store,
+              const GroupStore &groups, RecordingHUD &hud);
     Dictation(const Dictation &) = delete;
     Dictation &operator=(const Dictation &) = delete;
-    /// A recording in progress is abandoned; no recording stays on disk.
+    /// What is not sent yet goes to the unsent recordings, where those are kept; else no recording stays on disk.
     ~Dictation() override;
 
     const State &state() const { return m_state; }
@@ -86,6 +87,7 @@ private:
     Permissions &m_permissions;
     const Shortcuts &m_shortcuts;
     TokenBalance &m_balance;
+    UnsentRecordings &m_unsent;
     TranscriptionStore &m_store;
     const GroupStore &m_groups;
     RecordingHUD &m_hud;
@@ -95,7 +97,8 @@ private:
     std::unique_ptr<CarbonHotKey> m_escapeKey;
     std::unique_ptr<Clock::Timer> m_meterTimer;
     std::unique_ptr<Clock::Timer> m_limitTask;
-    QSet<QString> m_uploads; ///< recordings whose transcript is awaited
+    std::unique_ptr<Clock::Timer> m_connectionTimer;
+    QHash<QString, std::optional<QString>> m_uploads; ///< recordings whose transcript is awaited, with their groups
     bool m_hasLostMicrophone = false;
     int m_deliveries = 0; ///< texts on their way into the program in front
 };

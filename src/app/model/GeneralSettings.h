@@ -4,6 +4,7 @@
 #include "ui/settings/GeneralProperties.h"
 
 class LoginItem;
+class Preferences;
 class RecordingHUD;
 
 /// Settings that belong to nothing else. Main thread only.
@@ -11,12 +12,15 @@ class GeneralSettings : public GeneralProperties {
     Q_OBJECT
 
 public:
-    GeneralSettings(LoginItem &loginItem, RecordingHUD &hud);
+    GeneralSettings(LoginItem &loginItem, Preferences &preferences, RecordingHUD &hud);
 
     bool launchesAtLogin() const override;
     void setLaunchesAtLogin(bool launches) override;
+    bool keepsUnsent() const override;
+    void setKeepsUnsent(bool keeps) override;
 
 private:
     LoginItem &m_loginItem;
+    Preferences &m_preferences;
     RecordingHUD &m_hud;
 };

@@ -6,6 +6,8 @@
 #include "service/ApiClient.h"
 #include "ui/hud/RecordingHUD.h"
 
+#include <QScopeGuard>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -39,7 +41,9 @@ void TokenBalance::setBalance(int64_t balance)
 
 void TokenBalance::refresh()
 {
-    fetchBalance();
+    if (!m_isRefreshing) {
+        fetchBalance();
+    }
 }
 
 void TokenBalance::buyTokens()
@@ -49,6 +53,8 @@ void TokenBalance::buyTokens()
 
 QCoro::Task<void> TokenBalance::fetchBalance()
 {
+    m_isRefreshing = true;
+    const auto ended = qScopeGuard([this] { m_isRefreshing = false; });
     try {
         const Balance reply = co_await m_client.balance();
         m_isUnmetered = reply.unmetered;
@@ -65,7 +71,11 @@ QCoro::Task<void> TokenBalance::openCheckout()
 {
     try {
         const QUrl link = co_await m_client.checkoutLink();
-        m_workspace.open(link);
+        const bool isPage = link.scheme() == u"https" || link.scheme() == u"http";
+        if (!isPage || !m_workspace.open(link)) {
+            m_hud.notify(HUDPhase::Message{u"Couldn't open the checkout page in a browser"_s, true});
+            co_return;
+        }
     } catch (const LocalizedError &error) {
         m_hud.notify(HUDPhase::Message{error.localizedDescription(), true});
         co_return;

@@ -54,6 +54,7 @@ private:
     std::optional<int64_t> m_balance;
     bool m_isUnmetered = false;
     bool m_freeGrantMissed;
+    bool m_isRefreshing = false;
     std::unique_ptr<Clock::Timer> m_purchaseWatch;
     int m_purchaseWatchNumber = 0; ///< tells a poll under way that its watch was replaced
 };

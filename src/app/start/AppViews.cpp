@@ -16,16 +16,17 @@ AppModel::Views AppViews::factories(QQmlEngine &engine, const Platform &platform
         .hud = [&](HUDModel &hud) { return HUDView::makePanel(engine, platform.statusPanels, hud); },
         .history =
             [&](AppModel &model) {
-                return HistoryView::makeWindow(engine, {model.dictation(), model.shortcuts(), model.tokenBalance()},
-                                               model.store(), model.groups(), model.historyWindow(),
-                                               platform.pasteboard, platform.clock);
+                return HistoryView::makeWindow(
+                    engine, {model.dictation(), model.shortcuts(), model.tokenBalance(), model.unsent()}, model.store(),
+                    model.groups(), model.historyWindow(), platform.pasteboard, platform.clock);
             },
         .consent = [&](DisclosureView &disclosure) { return ConsentView::makeWindow(engine, disclosure); },
         .settings =
             [&](AppModel &model) {
                 return SettingsView::makeWindow(
                     engine, {model.shortcuts(), model.permissions(), model.general(), model.tokenBalance()},
-                    model.store(), model.groups(), model.historyWindow(), platform.packagedInfo, platform.keyMonitors);
+                    model.store(), model.groups(), [&model] { model.historyWindow().show(true); },
+                    platform.packagedInfo, platform.keyMonitors);
             },
     };
 }

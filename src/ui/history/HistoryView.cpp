@@ -8,6 +8,7 @@
 #include "ui/models/BalanceProperties.h"
 #include "ui/models/DictationProperties.h"
 #include "ui/models/ShortcutProperties.h"
+#include "ui/models/UnsentProperties.h"
 #include "ui/style/Paper.h"
 #include "ui/windows/makeViewWindow.h"
 
@@ -33,6 +34,7 @@ std::unique_ptr<QWindow> HistoryView::makeWindow(QQmlEngine &engine, const Prope
                                {{u"dictation"_s, QVariant::fromValue(&properties.dictation)},
                                 {u"shortcuts"_s, QVariant::fromValue(&properties.shortcuts)},
                                 {u"balance"_s, QVariant::fromValue(&properties.balance)},
+                                {u"unsent"_s, QVariant::fromValue(&properties.unsent)},
                                 {u"history"_s, QVariant::fromValue(history.get())},
                                 {u"carousel"_s, QVariant::fromValue(carousel.get())},
                                 {u"editor"_s, QVariant::fromValue(editor.get())},

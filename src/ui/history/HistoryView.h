@@ -13,6 +13,7 @@ class QQmlEngine;
 class QWindow;
 class ShortcutProperties;
 class TranscriptionStore;
+class UnsentProperties;
 
 /// The view HistoryView and the models behind it.
 namespace HistoryView {
@@ -22,6 +23,7 @@ struct Properties {
     DictationProperties &dictation;
     ShortcutProperties &shortcuts;
     BalanceProperties &balance;
+    UnsentProperties &unsent;
 };
 
 /// Makes the history window with the view in it, not yet shown. Everything that is passed outlives the window.

@@ -9,6 +9,7 @@ Item {
     required property DictationProperties dictation
     required property ShortcutProperties shortcuts
     required property BalanceProperties balance
+    required property UnsentProperties unsent
     required property HistoryModel history
     required property GroupCarouselModel carousel
     required property GroupEditorModel editor
@@ -84,6 +85,11 @@ Item {
             dictation: view.dictation
             shortcuts: view.shortcuts
             balance: view.balance
+        }
+        UnsentStrip {
+            x: 24
+            width: parent.width - 48
+            unsent: view.unsent
         }
         GroupCarousel {
             width: parent.width

@@ -5,12 +5,12 @@
 #include "platform/PackagedInfo.h"
 #include "store/GroupStore.h"
 #include "store/TranscriptionStore.h"
-#include "ui/history/HistoryWindow.h"
 #include "ui/models/ShortcutProperties.h"
 
 #include <QQmlEngine>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -47,12 +47,13 @@ ShortcutRecorder::Actions recording(ShortcutProperties &shortcuts, ShortcutPrope
 } // namespace
 
 SettingsModel::SettingsModel(ShortcutProperties &shortcuts, TranscriptionStore &store, GroupStore &groups,
-                             HistoryWindow &historyWindow, const PackagedInfo &packagedInfo, KeyMonitors &keyMonitors)
+                             std::function<void()> editGroups, const PackagedInfo &packagedInfo,
+                             KeyMonitors &keyMonitors)
     : m_shortcuts(shortcuts),
       m_keyMonitors(keyMonitors),
       m_store(store),
       m_groups(groups),
-      m_historyWindow(historyWindow),
+      m_editGroups(std::move(editGroups)),
       m_version(packagedInfo.string(u"CFBundleShortVersionString"_s).value_or(u"—"_s)),
       m_recorders{{{keyMonitors, recording(shortcuts, ShortcutProperties::Use::Dictation)},
                    {keyMonitors, recording(shortcuts, ShortcutProperties::Use::Group)},
@@ -143,9 +144,4 @@ QString SettingsModel::activeGroupName() const
 void SettingsModel::clearHistory()
 {
     m_store.clear();
-}
-
-void SettingsModel::editGroups()
-{
-    m_historyWindow.show(true);
 }

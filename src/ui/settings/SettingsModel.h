@@ -8,9 +8,9 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <array>
+#include <functional>
 
 class GroupStore;
-class HistoryWindow;
 class KeyMonitors;
 class PackagedInfo;
 class ShortcutProperties;
@@ -43,7 +43,7 @@ class SettingsModel : public QObject {
 
 public:
     SettingsModel(ShortcutProperties &shortcuts, TranscriptionStore &store, GroupStore &groups,
-                  HistoryWindow &historyWindow, const PackagedInfo &info, KeyMonitors &keyMonitors);
+                  std::function<void()> editGroups, const PackagedInfo &info, KeyMonitors &keyMonitors);
 
     int singleKey() const;
     void setSingleKey(int place);
@@ -62,8 +62,8 @@ public:
     ShortcutRecorderModel *historyShortcutRecorder() { return &m_recorders[2]; }
 
     Q_INVOKABLE void clearHistory();
-    /// Opens the history window with the group editor in front.
-    Q_INVOKABLE void editGroups();
+    /// Opens the group editor.
+    Q_INVOKABLE void editGroups() const { m_editGroups(); }
 
 Q_SIGNALS:
     void shortcutsChanged();
@@ -75,7 +75,7 @@ private:
     const KeyMonitors &m_keyMonitors;
     TranscriptionStore &m_store;
     GroupStore &m_groups;
-    HistoryWindow &m_historyWindow;
+    std::function<void()> m_editGroups;
     QString m_version;
     std::array<ShortcutRecorderModel, 3> m_recorders;
 };

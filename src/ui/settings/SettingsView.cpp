@@ -13,6 +13,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -42,11 +43,11 @@ void followContent(QQuickView &view)
 
 std::unique_ptr<QWindow> SettingsView::makeWindow(QQmlEngine &engine, const Properties &properties,
                                                   TranscriptionStore &store, GroupStore &groups,
-                                                  HistoryWindow &historyWindow, const PackagedInfo &info,
+                                                  std::function<void()> editGroups, const PackagedInfo &info,
                                                   KeyMonitors &keyMonitors)
 {
     auto settings =
-        std::make_unique<SettingsModel>(properties.shortcuts, store, groups, historyWindow, info, keyMonitors);
+        std::make_unique<SettingsModel>(properties.shortcuts, store, groups, std::move(editGroups), info, keyMonitors);
     auto view = makeViewWindow(engine, u"settings/SettingsView"_s,
                                {{u"shortcuts"_s, QVariant::fromValue(&properties.shortcuts)},
                                 {u"permissions"_s, QVariant::fromValue(&properties.permissions)},

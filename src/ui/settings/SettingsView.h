@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 
 class BalanceProperties;
 class GeneralProperties;
 class GroupStore;
-class HistoryWindow;
 class KeyMonitors;
 class PackagedInfo;
 class PermissionProperties;
@@ -28,7 +28,7 @@ struct Properties {
 
 /// Makes the settings window with the view in it, not yet shown. Everything that is passed outlives the window.
 std::unique_ptr<QWindow> makeWindow(QQmlEngine &engine, const Properties &properties, TranscriptionStore &store,
-                                    GroupStore &groups, HistoryWindow &historyWindow, const PackagedInfo &info,
+                                    GroupStore &groups, std::function<void()> editGroups, const PackagedInfo &info,
                                     KeyMonitors &keyMonitors);
 
 } // namespace SettingsView

@@ -63,6 +63,16 @@ Rectangle {
                         Accessible.name: "Open at login"
                     }
                 }
+                FormRow {
+                    label: "Keep recordings that couldn't be sent"
+                    detail: "For seven days. They are sent when the server answers again."
+
+                    SwitchControl {
+                        checked: view.general.keepsUnsent
+                        onToggled: view.general.keepsUnsent = checked
+                        Accessible.name: "Keep recordings that couldn't be sent"
+                    }
+                }
             }
             DataSection { permissions: view.permissions; balance: view.balance }
             HistorySection { settings: view.settings }
