@@ -73,13 +73,14 @@ net::awaitable<void> Server::accept()
                 spawn(std::move(socket));
                 continue;
             }
-        } else {
-            makeRoom();
         }
         if (!m_stopping) {
             // Too many requests or open files: wait for some connection to end instead of spinning.
             net::steady_timer pause(m_acceptor.get_executor(), std::chrono::milliseconds(20));
             co_await pause.async_wait(net::redirect_error(net::use_awaitable, error));
+            if (m_open > m_options.connections) {
+                makeRoom();
+            }
         }
     }
 }
