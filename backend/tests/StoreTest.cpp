@@ -193,6 +193,8 @@ TEST_P(StoreTest, ChangesNoBalanceBelowWhatIsHeldAndNoneThatIsNotMetered)
     store->ledger.settle(*hold);
     EXPECT_EQ(store->ledger.balance(free), 10);
     EXPECT_THAT(store->ledger.unexplained(), testing::IsEmpty());
+    store->database.change(u"UPDATE devices SET balance = balance + 1 WHERE id = ?"_s, {free});
+    EXPECT_EQ(store->ledger.unexplained(), QStringList{free});
 }
 
 TEST_P(StoreTest, ServesOneDeviceAndOnePoolThroughManyConnectionsAtOnce)
