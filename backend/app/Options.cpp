@@ -131,7 +131,7 @@ QList<QCommandLineOption> Options::all()
 Options::Options(const QCommandLineParser &parser) : m_parser(parser)
 {
     for (const auto &known : all()) {
-        const auto &name = known.names().constFirst();
+        const auto name = known.names().constFirst();
         const auto variable = variableOf(name);
         if (qEnvironmentVariableIsSet(variable.toLatin1().constData())) {
             m_values.insert(name, {qEnvironmentVariable(variable.toLatin1().constData()), variable});
