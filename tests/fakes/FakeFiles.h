@@ -38,6 +38,7 @@ public:
     }
     std::unique_ptr<Watch> watch(const QString & /*path*/, std::function<void()> callback) override
     {
+        ++watches;
         return std::make_unique<FakeWatch>(m_watches, std::move(callback));
     }
 
@@ -54,6 +55,7 @@ public:
 
     bool failsToWrite = false;
     int writes = 0;
+    int watches = 0; ///< begun so far
 
 private:
     struct FakeWatch : Watch {

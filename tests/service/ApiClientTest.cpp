@@ -341,7 +341,15 @@ TEST_F(ApiClientTest, OfTwoDevicesTheOneWithMoreTokensStays)
         reply.body = R"({"text":"Hello","balance":7})";
         resultOf(api.transcribe(recording("sound")));
         EXPECT_EQ(server.requests().last().headers.value("authorization"), "Bearer dev.s3cret") << "doesn't wait";
+        static QString log;
+        log.clear();
+        const auto before =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &line) { log += line; });
         errorOf(api.balance());
+        qInstallMessageHandler(before);
+        EXPECT_EQ(log.contains(row.kept == "dev.s3cret" ? u"device stored is"_s : u"device dev is"_s),
+                  row.kept == row.expected);
+        EXPECT_FALSE(log.contains(u"s3cret") || log.contains(u"stored.device")) << log.toStdString();
         resultOf(api.transcribe(recording("sound")));
         EXPECT_EQ(server.requests().last().headers.value("authorization"), "Bearer " + row.expected);
         EXPECT_EQ(fake.secrets.items.value(credentialItem), row.kept);

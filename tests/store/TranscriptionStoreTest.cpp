@@ -235,7 +235,9 @@ TEST_F(TranscriptionStoreTest, WhatCannotBeSavedIsSaidOnceAndTriedAgain)
         files.failsToWrite = false;
         clock.advance(59s);
         EXPECT_EQ(content(), "no file");
+        const int watches = files.watches;
         clock.advance(1s);
+        EXPECT_GT(files.watches, watches) << "what was watched is gone";
         EXPECT_EQ(told(), u"notice"_s);
         EXPECT_EQ(texts(TranscriptionStore(files, clock).items()), u"two one"_s);
         EXPECT_EQ(clock.pending(), 0);
