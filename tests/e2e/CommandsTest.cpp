@@ -116,8 +116,8 @@ TEST(CommandsTest, TheRunningProgramDoesWhatTheyName)
     EXPECT_EQ(desktop.command({u"edit-groups"_s}), done);
     EXPECT_EQ(desktop.command({u"settings"_s}), done);
     EXPECT_TRUE(await([&] { return !desktop.windowNamed(u"Quillo Settings"_s).isEmpty(); }));
-    EXPECT_TRUE(
-        desktop.command({u"status"_s}).output.startsWith(u"Hold or tap Ctrl+Alt+Space to dictate\nState:         idle\n"));
+    EXPECT_TRUE(desktop.command({u"status"_s})
+                    .output.startsWith(u"Hold or tap Ctrl+Alt+Space to dictate\nState:         idle\n"));
 
     EXPECT_EQ(desktop.command({u"quit"_s}), done);
     EXPECT_EQ(desktop.quillo().wait(), 0);

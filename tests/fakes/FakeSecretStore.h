@@ -47,6 +47,6 @@ public:
 
     QMap<QPair<QString, QString>, QByteArray> items;
     bool isAvailable = true;
-    bool isUnlockedByUser = false; ///< when asked
+    bool isUnlockedByUser = false;          ///< when asked
     std::shared_ptr<QPromise<void>> answer; ///< reading waits for it, where there is one
 };

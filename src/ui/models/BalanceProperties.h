@@ -11,7 +11,8 @@ class BalanceProperties : public QObject {
     QML_UNCREATABLE("The program makes it")
     /// False until the backend has answered once; `tokens` is 0 until then.
     Q_PROPERTY(bool isKnown READ isKnown NOTIFY balanceChanged)
-    Q_PROPERTY(qlonglong tokens READ tokens NOTIFY balanceChanged)
+    /// A number as views have them, which is exact up to 2^53.
+    Q_PROPERTY(double tokens READ tokens NOTIFY balanceChanged)
     Q_PROPERTY(bool isUnmetered READ isUnmetered NOTIFY balanceChanged)
 
 public:
