@@ -88,6 +88,13 @@
     </message>
 </context>
 <context>
+    <name>AppModel</name>
+    <message>
+        <source>All entries</source>
+        <translation>Alle Einträge</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Hold the dictation shortcut</source>
@@ -199,6 +206,13 @@ Rückgabewert: 0 erledigt, 1 misslungen, 2 Befehlszeile falsch, 3 Quillo läuft 
     </message>
 </context>
 <context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>CopyPill</name>
     <message>
         <source>COPIED</source>
@@ -215,6 +229,101 @@ Rückgabewert: 0 erledigt, 1 misslungen, 2 Befehlszeile falsch, 3 Quillo läuft 
     <message>
         <source>Copy</source>
         <translation>Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>DataSection</name>
+    <message>
+        <source>Data &amp; AI</source>
+        <translation>Daten und KI</translation>
+    </message>
+    <message>
+        <source>Sending to OpenAI</source>
+        <translation>Senden an OpenAI</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>Erlaubt</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Review…</source>
+        <translation>Ansehen …</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>Tokens</translation>
+    </message>
+    <message>
+        <source>Unmetered</source>
+        <translation>Unbegrenzt</translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <comment>number of tokens</comment>
+        <translation>%L1</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+</context>
+<context>
+    <name>Dictation</name>
+    <message>
+        <source>Listening… (Esc to cancel)</source>
+        <translation>Ich höre zu … (Esc bricht ab)</translation>
+    </message>
+    <message>
+        <source>Transcribing…</source>
+        <translation>Wird umgewandelt …</translation>
+    </message>
+    <message>
+        <source>Hold %1 to dictate</source>
+        <translation>Zum Diktieren %1 halten</translation>
+    </message>
+    <message>
+        <source>Tap %1 to dictate</source>
+        <translation>Zum Diktieren %1 tippen</translation>
+    </message>
+    <message>
+        <source>Hold or tap %1 to dictate</source>
+        <translation>Zum Diktieren %1 halten oder tippen</translation>
+    </message>
+    <message>
+        <source>Microphone access is off for Quillo</source>
+        <translation>Quillo darf das Mikrofon nicht benutzen</translation>
+    </message>
+    <message>
+        <source>Microphone on — press %1 to dictate</source>
+        <translation>Mikrofon an – zum Diktieren %1 drücken</translation>
+    </message>
+    <message>
+        <source>The microphone was disconnected.</source>
+        <translation>Das Mikrofon wurde getrennt.</translation>
+    </message>
+    <message>
+        <source>Nothing was recorded. Check the microphone.</source>
+        <translation>Nichts aufgenommen. Prüfen Sie das Mikrofon.</translation>
+    </message>
+    <message>
+        <source>Didn&apos;t catch anything</source>
+        <translation>Nichts verstanden</translation>
+    </message>
+    <message>
+        <source>Copied — press ⌘V to paste</source>
+        <translation>Kopiert – Einfügen mit Strg+V (im Terminal Strg+Umschalt+V)</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t paste. The text is in the history.</source>
+        <translation>Einfügen misslang. Der Text steht im Verlauf.</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
     </message>
 </context>
 <context>
@@ -745,6 +854,13 @@ Hier kann noch nicht diktiert werden.
     </message>
 </context>
 <context>
+    <name>GeneralSettings</name>
+    <message>
+        <source>Couldn&apos;t change Open at Login</source>
+        <translation>„Beim Anmelden starten“ ließ sich nicht ändern</translation>
+    </message>
+</context>
+<context>
     <name>GroupCarousel</name>
     <message>
         <source>Current group</source>
@@ -835,6 +951,37 @@ Hier kann noch nicht diktiert werden.
     </message>
 </context>
 <context>
+    <name>GroupsSection</name>
+    <message>
+        <source>Groups &amp; History</source>
+        <translation>Gruppen und Verlauf</translation>
+    </message>
+    <message>
+        <source>New dictations go into the current group: %1.</source>
+        <translation>Neue Diktate landen in der aktuellen Gruppe: %1.</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>Nächste Gruppe</translation>
+    </message>
+    <message>
+        <source>Show or hide history</source>
+        <translation>Verlauf ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>Edit…</source>
+        <translation>Bearbeiten …</translation>
+    </message>
+    <message>
+        <source>Edit groups</source>
+        <translation>Gruppen bearbeiten</translation>
+    </message>
+</context>
+<context>
     <name>HUDView</name>
     <message>
         <source>Dictating into %1</source>
@@ -881,6 +1028,40 @@ Hier kann noch nicht diktiert werden.
     <message>
         <source>All entries</source>
         <translation>Alle Einträge</translation>
+    </message>
+</context>
+<context>
+    <name>HistorySection</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Transcripts on this Mac</source>
+        <translation>Texte auf diesem Rechner</translation>
+    </message>
+    <message>
+        <source>Clear…</source>
+        <translation>Leeren …</translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete all %n transcripts?</source>
+        <translation>
+            <numerusform>Den Text löschen?</numerusform>
+            <numerusform>Alle %Ln Texte löschen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They&apos;re stored only on this Mac, so this can&apos;t be undone.</source>
+        <translation>Sie liegen nur auf diesem Rechner; das lässt sich nicht rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>Delete All</source>
+        <translation>Alle löschen</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
     </message>
 </context>
 <context>
@@ -957,6 +1138,125 @@ Hier kann noch nicht diktiert werden.
     </message>
 </context>
 <context>
+    <name>Menu</name>
+    <message>
+        <source>Unmetered (dev device)</source>
+        <translation>Unbegrenzt (Entwicklungsgerät)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 tokens left</source>
+        <translation>
+            <numerusform>Noch %L1 Token</numerusform>
+            <numerusform>Noch %L1 Tokens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Today&apos;s free tokens for new users ran out before you joined.</source>
+        <translation>Die heutigen freien Tokens für neue Nutzer waren schon vergeben.</translation>
+    </message>
+    <message>
+        <source>Buy Tokens…</source>
+        <translation>Tokens kaufen …</translation>
+    </message>
+    <message>
+        <source>Allow pasting into other apps…</source>
+        <translation>Einfügen in andere Programme erlauben …</translation>
+    </message>
+    <message>
+        <source>All entries</source>
+        <translation>Alle Einträge</translation>
+    </message>
+    <message>
+        <source>Next Group</source>
+        <translation>Nächste Gruppe</translation>
+    </message>
+    <message>
+        <source>Edit Groups…</source>
+        <translation>Gruppen bearbeiten …</translation>
+    </message>
+    <message>
+        <source>Group: %1</source>
+        <translation>Gruppe: %1</translation>
+    </message>
+    <message>
+        <source>Hide History</source>
+        <translation>Verlauf ausblenden</translation>
+    </message>
+    <message>
+        <source>Show History</source>
+        <translation>Verlauf anzeigen</translation>
+    </message>
+    <message>
+        <source>Copy Last Transcript</source>
+        <translation>Letzten Text kopieren</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>Verlauf löschen</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Zuletzt</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Einstellungen …</translation>
+    </message>
+    <message>
+        <source>Quit Quillo</source>
+        <translation>Quillo beenden</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionRow</name>
+    <message>
+        <source>Allowed</source>
+        <translation>Erlaubt</translation>
+    </message>
+    <message>
+        <source>Allow…</source>
+        <translation>Erlauben …</translation>
+    </message>
+    <message>
+        <source>Allow %1</source>
+        <translation>%1 erlauben</translation>
+    </message>
+</context>
+<context>
+    <name>Permissions</name>
+    <message>
+        <source>Allow an input device in the sound settings</source>
+        <translation>Erlauben Sie in den Klangeinstellungen ein Eingabegerät</translation>
+    </message>
+    <message>
+        <source>Run “quillo doctor” to see what is missing</source>
+        <translation>„quillo doctor“ zeigt, was fehlt</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionsSection</name>
+    <message>
+        <source>Permissions</source>
+        <translation>Berechtigungen</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Mikrofon</translation>
+    </message>
+    <message>
+        <source>To hear what you say.</source>
+        <translation>Um zu hören, was Sie sagen.</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Bedienungshilfen</translation>
+    </message>
+    <message>
+        <source>To paste into other apps. Without it, text is copied and you press ⌘V.</source>
+        <translation>Um in andere Programme einzufügen. Sonst wird der Text kopiert, und Sie drücken Strg+V (im Terminal Strg+Umschalt+V).</translation>
+    </message>
+</context>
+<context>
     <name>RecoverHistory</name>
     <message>
         <source>%1 can&apos;t be read.</source>
@@ -1003,6 +1303,36 @@ Hier kann noch nicht diktiert werden.
     <message>
         <source>Clear search</source>
         <translation>Suche leeren</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>All entries</source>
+        <translation>Alle Einträge</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Open at login</source>
+        <translation>Beim Anmelden starten</translation>
+    </message>
+    <message>
+        <source>Quillo Settings</source>
+        <translation>Quillo – Einstellungen</translation>
+    </message>
+    <message>
+        <source>Keep recordings that couldn&apos;t be sent</source>
+        <translation>Nicht gesendete Aufnahmen behalten</translation>
+    </message>
+    <message>
+        <source>For seven days. They are sent when the server answers again.</source>
+        <translation>Sieben Tage lang. Sie werden gesendet, sobald der Server wieder antwortet.</translation>
     </message>
 </context>
 <context>
@@ -1114,6 +1444,67 @@ Hier kann noch nicht diktiert werden.
     </message>
 </context>
 <context>
+    <name>ShortcutRecorder</name>
+    <message>
+        <source>Type shortcut…</source>
+        <translation>Tasten drücken …</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutSection</name>
+    <message>
+        <source>Shortcut</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Press Esc while recording to cancel.</source>
+        <translation>Esc während der Aufnahme bricht ab.</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Auslöser</translation>
+    </message>
+    <message>
+        <source>Key combination</source>
+        <translation>Tastenkombination</translation>
+    </message>
+    <message>
+        <source>Hold a single key</source>
+        <translation>Eine Taste halten</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>Set System Settings › Keyboard › “Press 🌐 key to” to “Do Nothing”, or the emoji picker opens too.</source>
+        <translation>Die meisten Tastaturen behalten Fn für sich. Geschieht beim Halten nichts, wählen Sie eine andere Taste.</translation>
+    </message>
+    <message>
+        <source>A single key needs Accessibility (below) before it works.</source>
+        <translation>Eine einzelne Taste braucht die Bedienungshilfen (unten), bevor sie wirkt.</translation>
+    </message>
+    <message>
+        <source>Behavior</source>
+        <translation>Verhalten</translation>
+    </message>
+    <message>
+        <source>This key doesn&apos;t arrive here: the keyboard or the desktop keeps it to itself. Choose another one.</source>
+        <translation>Diese Taste kommt hier nicht an: Die Tastatur oder der Desktop behält sie für sich. Wählen Sie eine andere.</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>%1 is already used by another app. Pick a different shortcut.</source>
+        <translation>%1 gehört schon einem anderen Programm. Wählen Sie ein anderes Tastenkürzel.</translation>
+    </message>
+    <message>
+        <source>%1 is already in use. Pick a different shortcut.</source>
+        <translation>%1 ist schon vergeben. Wählen Sie ein anderes Tastenkürzel.</translation>
+    </message>
+</context>
+<context>
     <name>Start</name>
     <message>
         <source>There is no session bus: no tray item but XEmbed&apos;s, no keyring, and commands can&apos;t reach Quillo.</source>
@@ -1176,6 +1567,27 @@ Hier kann noch nicht diktiert werden.
     </message>
 </context>
 <context>
+    <name>StatusStrip</name>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <translation>
+            <numerusform>%L1 Token</numerusform>
+            <numerusform>%L1 Tokens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1  next group   ·   %2  hide</source>
+        <translation>%1  nächste Gruppe   ·   %2  ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>TokenBalance</name>
+    <message>
+        <source>Couldn&apos;t open the checkout page in a browser</source>
+        <translation>Die Bezahlseite ließ sich nicht im Browser öffnen</translation>
+    </message>
+</context>
+<context>
     <name>Transcribe</name>
     <message>
         <source>Standard input can&apos;t be read.</source>
@@ -1219,6 +1631,32 @@ Hier kann noch nicht diktiert werden.
     <message>
         <source>The history can&apos;t be read: a new one begins, the old file is kept</source>
         <translation>Der Verlauf ist nicht lesbar: Ein neuer beginnt, die alte Datei bleibt</translation>
+    </message>
+</context>
+<context>
+    <name>UnsentStrip</name>
+    <message>
+        <source>Sending again…</source>
+        <translation>Wird erneut gesendet …</translation>
+    </message>
+    <message>
+        <source>One recording couldn&apos;t be sent.</source>
+        <translation>Eine Aufnahme konnte nicht gesendet werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n recordings couldn&apos;t be sent.</source>
+        <translation>
+            <numerusform>%Ln Aufnahme konnte nicht gesendet werden.</numerusform>
+            <numerusform>%Ln Aufnahmen konnten nicht gesendet werden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Send again</source>
+        <translation>Erneut senden</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
     </message>
 </context>
 </TS>

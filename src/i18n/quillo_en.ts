@@ -88,6 +88,13 @@
     </message>
 </context>
 <context>
+    <name>AppModel</name>
+    <message>
+        <source>All entries</source>
+        <translation>All entries</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Hold the dictation shortcut</source>
@@ -199,6 +206,13 @@ Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t 
     </message>
 </context>
 <context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>CopyPill</name>
     <message>
         <source>COPIED</source>
@@ -215,6 +229,101 @@ Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t 
     <message>
         <source>Copy</source>
         <translation>Copy</translation>
+    </message>
+</context>
+<context>
+    <name>DataSection</name>
+    <message>
+        <source>Data &amp; AI</source>
+        <translation>Data &amp; AI</translation>
+    </message>
+    <message>
+        <source>Sending to OpenAI</source>
+        <translation>Sending to OpenAI</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>Allowed</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Review…</source>
+        <translation>Review…</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>Tokens</translation>
+    </message>
+    <message>
+        <source>Unmetered</source>
+        <translation>Unmetered</translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <comment>number of tokens</comment>
+        <translation>%L1</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Refresh</translation>
+    </message>
+</context>
+<context>
+    <name>Dictation</name>
+    <message>
+        <source>Listening… (Esc to cancel)</source>
+        <translation>Listening… (Esc to cancel)</translation>
+    </message>
+    <message>
+        <source>Transcribing…</source>
+        <translation>Transcribing…</translation>
+    </message>
+    <message>
+        <source>Hold %1 to dictate</source>
+        <translation>Hold %1 to dictate</translation>
+    </message>
+    <message>
+        <source>Tap %1 to dictate</source>
+        <translation>Tap %1 to dictate</translation>
+    </message>
+    <message>
+        <source>Hold or tap %1 to dictate</source>
+        <translation>Hold or tap %1 to dictate</translation>
+    </message>
+    <message>
+        <source>Microphone access is off for Quillo</source>
+        <translation>Microphone access is off for Quillo</translation>
+    </message>
+    <message>
+        <source>Microphone on — press %1 to dictate</source>
+        <translation>Microphone on — press %1 to dictate</translation>
+    </message>
+    <message>
+        <source>The microphone was disconnected.</source>
+        <translation>The microphone was disconnected.</translation>
+    </message>
+    <message>
+        <source>Nothing was recorded. Check the microphone.</source>
+        <translation>Nothing was recorded. Check the microphone.</translation>
+    </message>
+    <message>
+        <source>Didn&apos;t catch anything</source>
+        <translation>Didn&apos;t catch anything</translation>
+    </message>
+    <message>
+        <source>Copied — press ⌘V to paste</source>
+        <translation>Copied — paste with Ctrl+V (Ctrl+Shift+V in a terminal)</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t paste. The text is in the history.</source>
+        <translation>Couldn&apos;t paste. The text is in the history.</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Cancelled</translation>
     </message>
 </context>
 <context>
@@ -745,6 +854,13 @@ Dictation can&apos;t work here yet.
     </message>
 </context>
 <context>
+    <name>GeneralSettings</name>
+    <message>
+        <source>Couldn&apos;t change Open at Login</source>
+        <translation>Couldn&apos;t change Open at Login</translation>
+    </message>
+</context>
+<context>
     <name>GroupCarousel</name>
     <message>
         <source>Current group</source>
@@ -835,6 +951,37 @@ Dictation can&apos;t work here yet.
     </message>
 </context>
 <context>
+    <name>GroupsSection</name>
+    <message>
+        <source>Groups &amp; History</source>
+        <translation>Groups &amp; History</translation>
+    </message>
+    <message>
+        <source>New dictations go into the current group: %1.</source>
+        <translation>New dictations go into the current group: %1.</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>Next group</translation>
+    </message>
+    <message>
+        <source>Show or hide history</source>
+        <translation>Show or hide history</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Groups</translation>
+    </message>
+    <message>
+        <source>Edit…</source>
+        <translation>Edit…</translation>
+    </message>
+    <message>
+        <source>Edit groups</source>
+        <translation>Edit groups</translation>
+    </message>
+</context>
+<context>
     <name>HUDView</name>
     <message>
         <source>Dictating into %1</source>
@@ -881,6 +1028,40 @@ Dictation can&apos;t work here yet.
     <message>
         <source>All entries</source>
         <translation>All entries</translation>
+    </message>
+</context>
+<context>
+    <name>HistorySection</name>
+    <message>
+        <source>History</source>
+        <translation>History</translation>
+    </message>
+    <message>
+        <source>Transcripts on this Mac</source>
+        <translation>Transcripts on this computer</translation>
+    </message>
+    <message>
+        <source>Clear…</source>
+        <translation>Clear…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete all %n transcripts?</source>
+        <translation>
+            <numerusform>Delete the transcript?</numerusform>
+            <numerusform>Delete all %Ln transcripts?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They&apos;re stored only on this Mac, so this can&apos;t be undone.</source>
+        <translation>They&apos;re stored only on this computer, so this can&apos;t be undone.</translation>
+    </message>
+    <message>
+        <source>Delete All</source>
+        <translation>Delete All</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
     </message>
 </context>
 <context>
@@ -957,6 +1138,125 @@ Dictation can&apos;t work here yet.
     </message>
 </context>
 <context>
+    <name>Menu</name>
+    <message>
+        <source>Unmetered (dev device)</source>
+        <translation>Unmetered (dev device)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 tokens left</source>
+        <translation>
+            <numerusform>%L1 token left</numerusform>
+            <numerusform>%L1 tokens left</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Today&apos;s free tokens for new users ran out before you joined.</source>
+        <translation>Today&apos;s free tokens for new users ran out before you joined.</translation>
+    </message>
+    <message>
+        <source>Buy Tokens…</source>
+        <translation>Buy Tokens…</translation>
+    </message>
+    <message>
+        <source>Allow pasting into other apps…</source>
+        <translation>Allow pasting into other apps…</translation>
+    </message>
+    <message>
+        <source>All entries</source>
+        <translation>All entries</translation>
+    </message>
+    <message>
+        <source>Next Group</source>
+        <translation>Next Group</translation>
+    </message>
+    <message>
+        <source>Edit Groups…</source>
+        <translation>Edit Groups…</translation>
+    </message>
+    <message>
+        <source>Group: %1</source>
+        <translation>Group: %1</translation>
+    </message>
+    <message>
+        <source>Hide History</source>
+        <translation>Hide History</translation>
+    </message>
+    <message>
+        <source>Show History</source>
+        <translation>Show History</translation>
+    </message>
+    <message>
+        <source>Copy Last Transcript</source>
+        <translation>Copy Last Transcript</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>Clear History</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Recent</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Settings…</translation>
+    </message>
+    <message>
+        <source>Quit Quillo</source>
+        <translation>Quit Quillo</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionRow</name>
+    <message>
+        <source>Allowed</source>
+        <translation>Allowed</translation>
+    </message>
+    <message>
+        <source>Allow…</source>
+        <translation>Allow…</translation>
+    </message>
+    <message>
+        <source>Allow %1</source>
+        <translation>Allow %1</translation>
+    </message>
+</context>
+<context>
+    <name>Permissions</name>
+    <message>
+        <source>Allow an input device in the sound settings</source>
+        <translation>Allow an input device in the sound settings</translation>
+    </message>
+    <message>
+        <source>Run “quillo doctor” to see what is missing</source>
+        <translation>Run “quillo doctor” to see what is missing</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionsSection</name>
+    <message>
+        <source>Permissions</source>
+        <translation>Permissions</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
+    </message>
+    <message>
+        <source>To hear what you say.</source>
+        <translation>To hear what you say.</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Accessibility</translation>
+    </message>
+    <message>
+        <source>To paste into other apps. Without it, text is copied and you press ⌘V.</source>
+        <translation>To paste into other apps. Without it, text is copied and you press Ctrl+V (Ctrl+Shift+V in a terminal).</translation>
+    </message>
+</context>
+<context>
     <name>RecoverHistory</name>
     <message>
         <source>%1 can&apos;t be read.</source>
@@ -1003,6 +1303,36 @@ Dictation can&apos;t work here yet.
     <message>
         <source>Clear search</source>
         <translation>Clear search</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>All entries</source>
+        <translation>All entries</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Open at login</source>
+        <translation>Open at login</translation>
+    </message>
+    <message>
+        <source>Quillo Settings</source>
+        <translation>Quillo Settings</translation>
+    </message>
+    <message>
+        <source>Keep recordings that couldn&apos;t be sent</source>
+        <translation>Keep recordings that couldn&apos;t be sent</translation>
+    </message>
+    <message>
+        <source>For seven days. They are sent when the server answers again.</source>
+        <translation>For seven days. They are sent when the server answers again.</translation>
     </message>
 </context>
 <context>
@@ -1114,6 +1444,67 @@ Dictation can&apos;t work here yet.
     </message>
 </context>
 <context>
+    <name>ShortcutRecorder</name>
+    <message>
+        <source>Type shortcut…</source>
+        <translation>Type shortcut…</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutSection</name>
+    <message>
+        <source>Shortcut</source>
+        <translation>Shortcut</translation>
+    </message>
+    <message>
+        <source>Press Esc while recording to cancel.</source>
+        <translation>Press Esc while recording to cancel.</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Trigger</translation>
+    </message>
+    <message>
+        <source>Key combination</source>
+        <translation>Key combination</translation>
+    </message>
+    <message>
+        <source>Hold a single key</source>
+        <translation>Hold a single key</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Key</translation>
+    </message>
+    <message>
+        <source>Set System Settings › Keyboard › “Press 🌐 key to” to “Do Nothing”, or the emoji picker opens too.</source>
+        <translation>Most keyboards keep Fn to themselves. If nothing happens when you hold it, choose another key.</translation>
+    </message>
+    <message>
+        <source>A single key needs Accessibility (below) before it works.</source>
+        <translation>A single key needs Accessibility (below) before it works.</translation>
+    </message>
+    <message>
+        <source>Behavior</source>
+        <translation>Behavior</translation>
+    </message>
+    <message>
+        <source>This key doesn&apos;t arrive here: the keyboard or the desktop keeps it to itself. Choose another one.</source>
+        <translation>This key doesn&apos;t arrive here: the keyboard or the desktop keeps it to itself. Choose another one.</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>%1 is already used by another app. Pick a different shortcut.</source>
+        <translation>%1 is already used by another app. Pick a different shortcut.</translation>
+    </message>
+    <message>
+        <source>%1 is already in use. Pick a different shortcut.</source>
+        <translation>%1 is already in use. Pick a different shortcut.</translation>
+    </message>
+</context>
+<context>
     <name>Start</name>
     <message>
         <source>There is no session bus: no tray item but XEmbed&apos;s, no keyring, and commands can&apos;t reach Quillo.</source>
@@ -1176,6 +1567,27 @@ Dictation can&apos;t work here yet.
     </message>
 </context>
 <context>
+    <name>StatusStrip</name>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <translation>
+            <numerusform>%L1 token</numerusform>
+            <numerusform>%L1 tokens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1  next group   ·   %2  hide</source>
+        <translation>%1  next group   ·   %2  hide</translation>
+    </message>
+</context>
+<context>
+    <name>TokenBalance</name>
+    <message>
+        <source>Couldn&apos;t open the checkout page in a browser</source>
+        <translation>Couldn&apos;t open the checkout page in a browser</translation>
+    </message>
+</context>
+<context>
     <name>Transcribe</name>
     <message>
         <source>Standard input can&apos;t be read.</source>
@@ -1219,6 +1631,32 @@ Dictation can&apos;t work here yet.
     <message>
         <source>The history can&apos;t be read: a new one begins, the old file is kept</source>
         <translation>The history can&apos;t be read: a new one begins, the old file is kept</translation>
+    </message>
+</context>
+<context>
+    <name>UnsentStrip</name>
+    <message>
+        <source>Sending again…</source>
+        <translation>Sending again…</translation>
+    </message>
+    <message>
+        <source>One recording couldn&apos;t be sent.</source>
+        <translation>One recording couldn&apos;t be sent.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n recordings couldn&apos;t be sent.</source>
+        <translation>
+            <numerusform>%Ln recording couldn&apos;t be sent.</numerusform>
+            <numerusform>%Ln recordings couldn&apos;t be sent.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Send again</source>
+        <translation>Send again</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
     </message>
 </context>
 </TS>

@@ -88,6 +88,13 @@
     </message>
 </context>
 <context>
+    <name>AppModel</name>
+    <message>
+        <source>All entries</source>
+        <translation>Todas las entradas</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Hold the dictation shortcut</source>
@@ -199,6 +206,13 @@ Estado de salida: 0 hecho, 1 fallo, 2 línea de órdenes incorrecta, 3 Quillo no
     </message>
 </context>
 <context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>CopyPill</name>
     <message>
         <source>COPIED</source>
@@ -215,6 +229,101 @@ Estado de salida: 0 hecho, 1 fallo, 2 línea de órdenes incorrecta, 3 Quillo no
     <message>
         <source>Copy</source>
         <translation>Copiar</translation>
+    </message>
+</context>
+<context>
+    <name>DataSection</name>
+    <message>
+        <source>Data &amp; AI</source>
+        <translation>Datos e IA</translation>
+    </message>
+    <message>
+        <source>Sending to OpenAI</source>
+        <translation>Envío a OpenAI</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>Permitido</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>Review…</source>
+        <translation>Revisar…</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>Tokens</translation>
+    </message>
+    <message>
+        <source>Unmetered</source>
+        <translation>Sin límite</translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <comment>number of tokens</comment>
+        <translation>%L1</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Actualizar</translation>
+    </message>
+</context>
+<context>
+    <name>Dictation</name>
+    <message>
+        <source>Listening… (Esc to cancel)</source>
+        <translation>Escuchando… (Esc para cancelar)</translation>
+    </message>
+    <message>
+        <source>Transcribing…</source>
+        <translation>Transcribiendo…</translation>
+    </message>
+    <message>
+        <source>Hold %1 to dictate</source>
+        <translation>Mantenga %1 para dictar</translation>
+    </message>
+    <message>
+        <source>Tap %1 to dictate</source>
+        <translation>Pulse %1 para dictar</translation>
+    </message>
+    <message>
+        <source>Hold or tap %1 to dictate</source>
+        <translation>Mantenga o pulse %1 para dictar</translation>
+    </message>
+    <message>
+        <source>Microphone access is off for Quillo</source>
+        <translation>Quillo no tiene acceso al micrófono</translation>
+    </message>
+    <message>
+        <source>Microphone on — press %1 to dictate</source>
+        <translation>Micrófono activado: pulse %1 para dictar</translation>
+    </message>
+    <message>
+        <source>The microphone was disconnected.</source>
+        <translation>Se desconectó el micrófono.</translation>
+    </message>
+    <message>
+        <source>Nothing was recorded. Check the microphone.</source>
+        <translation>No se grabó nada. Compruebe el micrófono.</translation>
+    </message>
+    <message>
+        <source>Didn&apos;t catch anything</source>
+        <translation>No se entendió nada</translation>
+    </message>
+    <message>
+        <source>Copied — press ⌘V to paste</source>
+        <translation>Copiado: pegue con Ctrl+V (Ctrl+Mayús+V en un terminal)</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t paste. The text is in the history.</source>
+        <translation>No se pudo pegar. El texto está en el historial.</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Cancelado</translation>
     </message>
 </context>
 <context>
@@ -745,6 +854,13 @@ El dictado todavía no puede funcionar aquí.
     </message>
 </context>
 <context>
+    <name>GeneralSettings</name>
+    <message>
+        <source>Couldn&apos;t change Open at Login</source>
+        <translation>No se pudo cambiar Abrir al iniciar sesión</translation>
+    </message>
+</context>
+<context>
     <name>GroupCarousel</name>
     <message>
         <source>Current group</source>
@@ -835,6 +951,37 @@ El dictado todavía no puede funcionar aquí.
     </message>
 </context>
 <context>
+    <name>GroupsSection</name>
+    <message>
+        <source>Groups &amp; History</source>
+        <translation>Grupos e historial</translation>
+    </message>
+    <message>
+        <source>New dictations go into the current group: %1.</source>
+        <translation>Los dictados nuevos van al grupo actual: %1.</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>Grupo siguiente</translation>
+    </message>
+    <message>
+        <source>Show or hide history</source>
+        <translation>Mostrar u ocultar el historial</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Grupos</translation>
+    </message>
+    <message>
+        <source>Edit…</source>
+        <translation>Editar…</translation>
+    </message>
+    <message>
+        <source>Edit groups</source>
+        <translation>Editar grupos</translation>
+    </message>
+</context>
+<context>
     <name>HUDView</name>
     <message>
         <source>Dictating into %1</source>
@@ -881,6 +1028,40 @@ El dictado todavía no puede funcionar aquí.
     <message>
         <source>All entries</source>
         <translation>Todas las entradas</translation>
+    </message>
+</context>
+<context>
+    <name>HistorySection</name>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>Transcripts on this Mac</source>
+        <translation>Transcripciones en este equipo</translation>
+    </message>
+    <message>
+        <source>Clear…</source>
+        <translation>Vaciar…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete all %n transcripts?</source>
+        <translation>
+            <numerusform>¿Eliminar la transcripción?</numerusform>
+            <numerusform>¿Eliminar las %Ln transcripciones?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They&apos;re stored only on this Mac, so this can&apos;t be undone.</source>
+        <translation>Solo están guardadas en este equipo, así que no se puede deshacer.</translation>
+    </message>
+    <message>
+        <source>Delete All</source>
+        <translation>Eliminar todo</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versión %1</translation>
     </message>
 </context>
 <context>
@@ -957,6 +1138,125 @@ El dictado todavía no puede funcionar aquí.
     </message>
 </context>
 <context>
+    <name>Menu</name>
+    <message>
+        <source>Unmetered (dev device)</source>
+        <translation>Sin límite (dispositivo de desarrollo)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 tokens left</source>
+        <translation>
+            <numerusform>Queda %L1 token</numerusform>
+            <numerusform>Quedan %L1 tokens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Today&apos;s free tokens for new users ran out before you joined.</source>
+        <translation>Los tokens gratuitos de hoy para usuarios nuevos se agotaron antes de que llegara.</translation>
+    </message>
+    <message>
+        <source>Buy Tokens…</source>
+        <translation>Comprar tokens…</translation>
+    </message>
+    <message>
+        <source>Allow pasting into other apps…</source>
+        <translation>Permitir pegar en otras aplicaciones…</translation>
+    </message>
+    <message>
+        <source>All entries</source>
+        <translation>Todas las entradas</translation>
+    </message>
+    <message>
+        <source>Next Group</source>
+        <translation>Grupo siguiente</translation>
+    </message>
+    <message>
+        <source>Edit Groups…</source>
+        <translation>Editar grupos…</translation>
+    </message>
+    <message>
+        <source>Group: %1</source>
+        <translation>Grupo: %1</translation>
+    </message>
+    <message>
+        <source>Hide History</source>
+        <translation>Ocultar el historial</translation>
+    </message>
+    <message>
+        <source>Show History</source>
+        <translation>Mostrar el historial</translation>
+    </message>
+    <message>
+        <source>Copy Last Transcript</source>
+        <translation>Copiar la última transcripción</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>Borrar el historial</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Recientes</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Ajustes…</translation>
+    </message>
+    <message>
+        <source>Quit Quillo</source>
+        <translation>Salir de Quillo</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionRow</name>
+    <message>
+        <source>Allowed</source>
+        <translation>Permitido</translation>
+    </message>
+    <message>
+        <source>Allow…</source>
+        <translation>Permitir…</translation>
+    </message>
+    <message>
+        <source>Allow %1</source>
+        <translation>Permitir %1</translation>
+    </message>
+</context>
+<context>
+    <name>Permissions</name>
+    <message>
+        <source>Allow an input device in the sound settings</source>
+        <translation>Permita un dispositivo de entrada en los ajustes de sonido</translation>
+    </message>
+    <message>
+        <source>Run “quillo doctor” to see what is missing</source>
+        <translation>Ejecute «quillo doctor» para ver qué falta</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionsSection</name>
+    <message>
+        <source>Permissions</source>
+        <translation>Permisos</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Micrófono</translation>
+    </message>
+    <message>
+        <source>To hear what you say.</source>
+        <translation>Para oír lo que dice.</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Accesibilidad</translation>
+    </message>
+    <message>
+        <source>To paste into other apps. Without it, text is copied and you press ⌘V.</source>
+        <translation>Para pegar en otras aplicaciones. Sin ella, el texto se copia y usted pulsa Ctrl+V (Ctrl+Mayús+V en un terminal).</translation>
+    </message>
+</context>
+<context>
     <name>RecoverHistory</name>
     <message>
         <source>%1 can&apos;t be read.</source>
@@ -1003,6 +1303,36 @@ El dictado todavía no puede funcionar aquí.
     <message>
         <source>Clear search</source>
         <translation>Borrar la búsqueda</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>All entries</source>
+        <translation>Todas las entradas</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Open at login</source>
+        <translation>Abrir al iniciar sesión</translation>
+    </message>
+    <message>
+        <source>Quillo Settings</source>
+        <translation>Ajustes de Quillo</translation>
+    </message>
+    <message>
+        <source>Keep recordings that couldn&apos;t be sent</source>
+        <translation>Conservar las grabaciones no enviadas</translation>
+    </message>
+    <message>
+        <source>For seven days. They are sent when the server answers again.</source>
+        <translation>Durante siete días. Se envían cuando el servidor vuelve a responder.</translation>
     </message>
 </context>
 <context>
@@ -1114,6 +1444,67 @@ El dictado todavía no puede funcionar aquí.
     </message>
 </context>
 <context>
+    <name>ShortcutRecorder</name>
+    <message>
+        <source>Type shortcut…</source>
+        <translation>Pulse el atajo…</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutSection</name>
+    <message>
+        <source>Shortcut</source>
+        <translation>Atajo</translation>
+    </message>
+    <message>
+        <source>Press Esc while recording to cancel.</source>
+        <translation>Pulse Esc durante la grabación para cancelar.</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Activador</translation>
+    </message>
+    <message>
+        <source>Key combination</source>
+        <translation>Combinación de teclas</translation>
+    </message>
+    <message>
+        <source>Hold a single key</source>
+        <translation>Mantener una tecla</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Tecla</translation>
+    </message>
+    <message>
+        <source>Set System Settings › Keyboard › “Press 🌐 key to” to “Do Nothing”, or the emoji picker opens too.</source>
+        <translation>La mayoría de los teclados no comunican Fn. Si no ocurre nada al mantenerla, elija otra tecla.</translation>
+    </message>
+    <message>
+        <source>A single key needs Accessibility (below) before it works.</source>
+        <translation>Una sola tecla necesita Accesibilidad (abajo) para funcionar.</translation>
+    </message>
+    <message>
+        <source>Behavior</source>
+        <translation>Comportamiento</translation>
+    </message>
+    <message>
+        <source>This key doesn&apos;t arrive here: the keyboard or the desktop keeps it to itself. Choose another one.</source>
+        <translation>Esta tecla no llega aquí: el teclado o el escritorio se la queda. Elija otra.</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>%1 is already used by another app. Pick a different shortcut.</source>
+        <translation>Otra aplicación ya usa %1. Elija otro atajo.</translation>
+    </message>
+    <message>
+        <source>%1 is already in use. Pick a different shortcut.</source>
+        <translation>%1 ya está en uso. Elija otro atajo.</translation>
+    </message>
+</context>
+<context>
     <name>Start</name>
     <message>
         <source>There is no session bus: no tray item but XEmbed&apos;s, no keyring, and commands can&apos;t reach Quillo.</source>
@@ -1176,6 +1567,27 @@ El dictado todavía no puede funcionar aquí.
     </message>
 </context>
 <context>
+    <name>StatusStrip</name>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <translation>
+            <numerusform>%L1 token</numerusform>
+            <numerusform>%L1 tokens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1  next group   ·   %2  hide</source>
+        <translation>%1  grupo siguiente   ·   %2  ocultar</translation>
+    </message>
+</context>
+<context>
+    <name>TokenBalance</name>
+    <message>
+        <source>Couldn&apos;t open the checkout page in a browser</source>
+        <translation>No se pudo abrir la página de pago en un navegador</translation>
+    </message>
+</context>
+<context>
     <name>Transcribe</name>
     <message>
         <source>Standard input can&apos;t be read.</source>
@@ -1219,6 +1631,32 @@ El dictado todavía no puede funcionar aquí.
     <message>
         <source>The history can&apos;t be read: a new one begins, the old file is kept</source>
         <translation>No se puede leer el historial: empieza uno nuevo y se conserva el archivo anterior</translation>
+    </message>
+</context>
+<context>
+    <name>UnsentStrip</name>
+    <message>
+        <source>Sending again…</source>
+        <translation>Enviando de nuevo…</translation>
+    </message>
+    <message>
+        <source>One recording couldn&apos;t be sent.</source>
+        <translation>No se pudo enviar una grabación.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n recordings couldn&apos;t be sent.</source>
+        <translation>
+            <numerusform>No se pudo enviar %Ln grabación.</numerusform>
+            <numerusform>No se pudieron enviar %Ln grabaciones.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Send again</source>
+        <translation>Enviar de nuevo</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
     </message>
 </context>
 </TS>

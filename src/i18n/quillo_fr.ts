@@ -88,6 +88,13 @@
     </message>
 </context>
 <context>
+    <name>AppModel</name>
+    <message>
+        <source>All entries</source>
+        <translation>Toutes les entrées</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Hold the dictation shortcut</source>
@@ -199,6 +206,13 @@ Code de retour : 0 fait, 1 échec, 2 ligne de commande incorrecte, 3 Quillo ne t
     </message>
 </context>
 <context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
     <name>CopyPill</name>
     <message>
         <source>COPIED</source>
@@ -215,6 +229,101 @@ Code de retour : 0 fait, 1 échec, 2 ligne de commande incorrecte, 3 Quillo ne t
     <message>
         <source>Copy</source>
         <translation>Copier</translation>
+    </message>
+</context>
+<context>
+    <name>DataSection</name>
+    <message>
+        <source>Data &amp; AI</source>
+        <translation>Données et IA</translation>
+    </message>
+    <message>
+        <source>Sending to OpenAI</source>
+        <translation>Envoi à OpenAI</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>Autorisé</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>Review…</source>
+        <translation>Revoir…</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>Jetons</translation>
+    </message>
+    <message>
+        <source>Unmetered</source>
+        <translation>Illimité</translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <comment>number of tokens</comment>
+        <translation>%L1</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+</context>
+<context>
+    <name>Dictation</name>
+    <message>
+        <source>Listening… (Esc to cancel)</source>
+        <translation>À l’écoute… (Échap pour annuler)</translation>
+    </message>
+    <message>
+        <source>Transcribing…</source>
+        <translation>Transcription…</translation>
+    </message>
+    <message>
+        <source>Hold %1 to dictate</source>
+        <translation>Maintenez %1 pour dicter</translation>
+    </message>
+    <message>
+        <source>Tap %1 to dictate</source>
+        <translation>Tapez %1 pour dicter</translation>
+    </message>
+    <message>
+        <source>Hold or tap %1 to dictate</source>
+        <translation>Maintenez ou tapez %1 pour dicter</translation>
+    </message>
+    <message>
+        <source>Microphone access is off for Quillo</source>
+        <translation>Quillo n’a pas accès au microphone</translation>
+    </message>
+    <message>
+        <source>Microphone on — press %1 to dictate</source>
+        <translation>Microphone activé – appuyez sur %1 pour dicter</translation>
+    </message>
+    <message>
+        <source>The microphone was disconnected.</source>
+        <translation>Le microphone a été débranché.</translation>
+    </message>
+    <message>
+        <source>Nothing was recorded. Check the microphone.</source>
+        <translation>Rien n’a été enregistré. Vérifiez le microphone.</translation>
+    </message>
+    <message>
+        <source>Didn&apos;t catch anything</source>
+        <translation>Rien entendu</translation>
+    </message>
+    <message>
+        <source>Copied — press ⌘V to paste</source>
+        <translation>Copié – collez avec Ctrl+V (Ctrl+Maj+V dans un terminal)</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t paste. The text is in the history.</source>
+        <translation>Collage impossible. Le texte est dans l’historique.</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Annulé</translation>
     </message>
 </context>
 <context>
@@ -745,6 +854,13 @@ La dictée ne peut pas encore fonctionner ici.
     </message>
 </context>
 <context>
+    <name>GeneralSettings</name>
+    <message>
+        <source>Couldn&apos;t change Open at Login</source>
+        <translation>Impossible de modifier l’ouverture à la connexion</translation>
+    </message>
+</context>
+<context>
     <name>GroupCarousel</name>
     <message>
         <source>Current group</source>
@@ -835,6 +951,37 @@ La dictée ne peut pas encore fonctionner ici.
     </message>
 </context>
 <context>
+    <name>GroupsSection</name>
+    <message>
+        <source>Groups &amp; History</source>
+        <translation>Groupes et historique</translation>
+    </message>
+    <message>
+        <source>New dictations go into the current group: %1.</source>
+        <translation>Les nouvelles dictées vont dans le groupe actuel : %1.</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>Groupe suivant</translation>
+    </message>
+    <message>
+        <source>Show or hide history</source>
+        <translation>Afficher ou masquer l’historique</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Groupes</translation>
+    </message>
+    <message>
+        <source>Edit…</source>
+        <translation>Modifier…</translation>
+    </message>
+    <message>
+        <source>Edit groups</source>
+        <translation>Modifier les groupes</translation>
+    </message>
+</context>
+<context>
     <name>HUDView</name>
     <message>
         <source>Dictating into %1</source>
@@ -881,6 +1028,40 @@ La dictée ne peut pas encore fonctionner ici.
     <message>
         <source>All entries</source>
         <translation>Toutes les entrées</translation>
+    </message>
+</context>
+<context>
+    <name>HistorySection</name>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>Transcripts on this Mac</source>
+        <translation>Transcriptions sur cet ordinateur</translation>
+    </message>
+    <message>
+        <source>Clear…</source>
+        <translation>Effacer…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete all %n transcripts?</source>
+        <translation>
+            <numerusform>Supprimer la transcription ?</numerusform>
+            <numerusform>Supprimer les %Ln transcriptions ?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They&apos;re stored only on this Mac, so this can&apos;t be undone.</source>
+        <translation>Elles ne sont conservées que sur cet ordinateur : c’est irréversible.</translation>
+    </message>
+    <message>
+        <source>Delete All</source>
+        <translation>Tout supprimer</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
     </message>
 </context>
 <context>
@@ -957,6 +1138,125 @@ La dictée ne peut pas encore fonctionner ici.
     </message>
 </context>
 <context>
+    <name>Menu</name>
+    <message>
+        <source>Unmetered (dev device)</source>
+        <translation>Illimité (appareil de développement)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 tokens left</source>
+        <translation>
+            <numerusform>%L1 jeton restant</numerusform>
+            <numerusform>%L1 jetons restants</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Today&apos;s free tokens for new users ran out before you joined.</source>
+        <translation>Les jetons gratuits du jour pour les nouveaux étaient déjà épuisés.</translation>
+    </message>
+    <message>
+        <source>Buy Tokens…</source>
+        <translation>Acheter des jetons…</translation>
+    </message>
+    <message>
+        <source>Allow pasting into other apps…</source>
+        <translation>Autoriser le collage dans d’autres applications…</translation>
+    </message>
+    <message>
+        <source>All entries</source>
+        <translation>Toutes les entrées</translation>
+    </message>
+    <message>
+        <source>Next Group</source>
+        <translation>Groupe suivant</translation>
+    </message>
+    <message>
+        <source>Edit Groups…</source>
+        <translation>Modifier les groupes…</translation>
+    </message>
+    <message>
+        <source>Group: %1</source>
+        <translation>Groupe : %1</translation>
+    </message>
+    <message>
+        <source>Hide History</source>
+        <translation>Masquer l’historique</translation>
+    </message>
+    <message>
+        <source>Show History</source>
+        <translation>Afficher l’historique</translation>
+    </message>
+    <message>
+        <source>Copy Last Transcript</source>
+        <translation>Copier la dernière transcription</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>Effacer l’historique</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Récentes</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Réglages…</translation>
+    </message>
+    <message>
+        <source>Quit Quillo</source>
+        <translation>Quitter Quillo</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionRow</name>
+    <message>
+        <source>Allowed</source>
+        <translation>Autorisé</translation>
+    </message>
+    <message>
+        <source>Allow…</source>
+        <translation>Autoriser…</translation>
+    </message>
+    <message>
+        <source>Allow %1</source>
+        <translation>Autoriser %1</translation>
+    </message>
+</context>
+<context>
+    <name>Permissions</name>
+    <message>
+        <source>Allow an input device in the sound settings</source>
+        <translation>Autorisez un périphérique d’entrée dans les réglages du son</translation>
+    </message>
+    <message>
+        <source>Run “quillo doctor” to see what is missing</source>
+        <translation>Lancez « quillo doctor » pour voir ce qui manque</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionsSection</name>
+    <message>
+        <source>Permissions</source>
+        <translation>Autorisations</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
+    </message>
+    <message>
+        <source>To hear what you say.</source>
+        <translation>Pour entendre ce que vous dites.</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Accessibilité</translation>
+    </message>
+    <message>
+        <source>To paste into other apps. Without it, text is copied and you press ⌘V.</source>
+        <translation>Pour coller dans d’autres applications. Sinon le texte est copié et vous appuyez sur Ctrl+V (Ctrl+Maj+V dans un terminal).</translation>
+    </message>
+</context>
+<context>
     <name>RecoverHistory</name>
     <message>
         <source>%1 can&apos;t be read.</source>
@@ -1003,6 +1303,36 @@ La dictée ne peut pas encore fonctionner ici.
     <message>
         <source>Clear search</source>
         <translation>Effacer la recherche</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>All entries</source>
+        <translation>Toutes les entrées</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Open at login</source>
+        <translation>Ouvrir à la connexion</translation>
+    </message>
+    <message>
+        <source>Quillo Settings</source>
+        <translation>Réglages de Quillo</translation>
+    </message>
+    <message>
+        <source>Keep recordings that couldn&apos;t be sent</source>
+        <translation>Garder les enregistrements non envoyés</translation>
+    </message>
+    <message>
+        <source>For seven days. They are sent when the server answers again.</source>
+        <translation>Pendant sept jours. Ils sont envoyés dès que le serveur répond à nouveau.</translation>
     </message>
 </context>
 <context>
@@ -1114,6 +1444,67 @@ La dictée ne peut pas encore fonctionner ici.
     </message>
 </context>
 <context>
+    <name>ShortcutRecorder</name>
+    <message>
+        <source>Type shortcut…</source>
+        <translation>Tapez le raccourci…</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutSection</name>
+    <message>
+        <source>Shortcut</source>
+        <translation>Raccourci</translation>
+    </message>
+    <message>
+        <source>Press Esc while recording to cancel.</source>
+        <translation>Appuyez sur Échap pendant l’enregistrement pour annuler.</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Déclencheur</translation>
+    </message>
+    <message>
+        <source>Key combination</source>
+        <translation>Combinaison de touches</translation>
+    </message>
+    <message>
+        <source>Hold a single key</source>
+        <translation>Maintenir une touche</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Touche</translation>
+    </message>
+    <message>
+        <source>Set System Settings › Keyboard › “Press 🌐 key to” to “Do Nothing”, or the emoji picker opens too.</source>
+        <translation>La plupart des claviers gardent Fn pour eux. Si rien ne se passe quand vous la maintenez, choisissez une autre touche.</translation>
+    </message>
+    <message>
+        <source>A single key needs Accessibility (below) before it works.</source>
+        <translation>Une touche seule a besoin d’Accessibilité (ci-dessous) pour fonctionner.</translation>
+    </message>
+    <message>
+        <source>Behavior</source>
+        <translation>Comportement</translation>
+    </message>
+    <message>
+        <source>This key doesn&apos;t arrive here: the keyboard or the desktop keeps it to itself. Choose another one.</source>
+        <translation>Cette touche n’arrive pas ici : le clavier ou le bureau la garde. Choisissez-en une autre.</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>%1 is already used by another app. Pick a different shortcut.</source>
+        <translation>%1 est déjà utilisé par une autre application. Choisissez un autre raccourci.</translation>
+    </message>
+    <message>
+        <source>%1 is already in use. Pick a different shortcut.</source>
+        <translation>%1 est déjà utilisé. Choisissez un autre raccourci.</translation>
+    </message>
+</context>
+<context>
     <name>Start</name>
     <message>
         <source>There is no session bus: no tray item but XEmbed&apos;s, no keyring, and commands can&apos;t reach Quillo.</source>
@@ -1176,6 +1567,27 @@ La dictée ne peut pas encore fonctionner ici.
     </message>
 </context>
 <context>
+    <name>StatusStrip</name>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <translation>
+            <numerusform>%L1 jeton</numerusform>
+            <numerusform>%L1 jetons</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1  next group   ·   %2  hide</source>
+        <translation>%1  groupe suivant   ·   %2  masquer</translation>
+    </message>
+</context>
+<context>
+    <name>TokenBalance</name>
+    <message>
+        <source>Couldn&apos;t open the checkout page in a browser</source>
+        <translation>Impossible d’ouvrir la page de paiement dans un navigateur</translation>
+    </message>
+</context>
+<context>
     <name>Transcribe</name>
     <message>
         <source>Standard input can&apos;t be read.</source>
@@ -1219,6 +1631,32 @@ La dictée ne peut pas encore fonctionner ici.
     <message>
         <source>The history can&apos;t be read: a new one begins, the old file is kept</source>
         <translation>L’historique est illisible : un nouveau commence, l’ancien fichier est gardé</translation>
+    </message>
+</context>
+<context>
+    <name>UnsentStrip</name>
+    <message>
+        <source>Sending again…</source>
+        <translation>Nouvel envoi…</translation>
+    </message>
+    <message>
+        <source>One recording couldn&apos;t be sent.</source>
+        <translation>Un enregistrement n’a pas pu être envoyé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n recordings couldn&apos;t be sent.</source>
+        <translation>
+            <numerusform>%Ln enregistrement n’a pas pu être envoyé.</numerusform>
+            <numerusform>%Ln enregistrements n’ont pas pu être envoyés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Send again</source>
+        <translation>Renvoyer</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
     </message>
 </context>
 </TS>

@@ -85,6 +85,13 @@
     </message>
 </context>
 <context>
+    <name>AppModel</name>
+    <message>
+        <source>All entries</source>
+        <translation>すべての項目</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Hold the dictation shortcut</source>
@@ -196,6 +203,13 @@ Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t 
     </message>
 </context>
 <context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
     <name>CopyPill</name>
     <message>
         <source>COPIED</source>
@@ -212,6 +226,101 @@ Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t 
     <message>
         <source>Copy</source>
         <translation>コピー</translation>
+    </message>
+</context>
+<context>
+    <name>DataSection</name>
+    <message>
+        <source>Data &amp; AI</source>
+        <translation>データとAI</translation>
+    </message>
+    <message>
+        <source>Sending to OpenAI</source>
+        <translation>OpenAIへの送信</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>許可済み</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Review…</source>
+        <translation>確認…</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>トークン</translation>
+    </message>
+    <message>
+        <source>Unmetered</source>
+        <translation>無制限</translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <comment>number of tokens</comment>
+        <translation>%L1</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>更新</translation>
+    </message>
+</context>
+<context>
+    <name>Dictation</name>
+    <message>
+        <source>Listening… (Esc to cancel)</source>
+        <translation>聞き取り中…（Escで取り消し）</translation>
+    </message>
+    <message>
+        <source>Transcribing…</source>
+        <translation>文字起こし中…</translation>
+    </message>
+    <message>
+        <source>Hold %1 to dictate</source>
+        <translation>%1を押し続けて音声入力</translation>
+    </message>
+    <message>
+        <source>Tap %1 to dictate</source>
+        <translation>%1を押して音声入力</translation>
+    </message>
+    <message>
+        <source>Hold or tap %1 to dictate</source>
+        <translation>%1を押すか押し続けて音声入力</translation>
+    </message>
+    <message>
+        <source>Microphone access is off for Quillo</source>
+        <translation>Quilloのマイクアクセスがオフです</translation>
+    </message>
+    <message>
+        <source>Microphone on — press %1 to dictate</source>
+        <translation>マイクが使えます — %1で音声入力</translation>
+    </message>
+    <message>
+        <source>The microphone was disconnected.</source>
+        <translation>マイクが取り外されました。</translation>
+    </message>
+    <message>
+        <source>Nothing was recorded. Check the microphone.</source>
+        <translation>録音されませんでした。マイクを確認してください。</translation>
+    </message>
+    <message>
+        <source>Didn&apos;t catch anything</source>
+        <translation>聞き取れませんでした</translation>
+    </message>
+    <message>
+        <source>Copied — press ⌘V to paste</source>
+        <translation>コピーしました — Ctrl+Vで貼り付け（端末はCtrl+Shift+V）</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t paste. The text is in the history.</source>
+        <translation>貼り付けできませんでした。テキストは履歴にあります。</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>取り消しました</translation>
     </message>
 </context>
 <context>
@@ -742,6 +851,13 @@ Dictation can&apos;t work here yet.
     </message>
 </context>
 <context>
+    <name>GeneralSettings</name>
+    <message>
+        <source>Couldn&apos;t change Open at Login</source>
+        <translation>「ログイン時に開く」を変更できませんでした</translation>
+    </message>
+</context>
+<context>
     <name>GroupCarousel</name>
     <message>
         <source>Current group</source>
@@ -832,6 +948,37 @@ Dictation can&apos;t work here yet.
     </message>
 </context>
 <context>
+    <name>GroupsSection</name>
+    <message>
+        <source>Groups &amp; History</source>
+        <translation>グループと履歴</translation>
+    </message>
+    <message>
+        <source>New dictations go into the current group: %1.</source>
+        <translation>新しい音声入力は現在のグループに入ります: %1</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>次のグループ</translation>
+    </message>
+    <message>
+        <source>Show or hide history</source>
+        <translation>履歴を表示または隠す</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>Edit…</source>
+        <translation>編集…</translation>
+    </message>
+    <message>
+        <source>Edit groups</source>
+        <translation>グループを編集</translation>
+    </message>
+</context>
+<context>
     <name>HUDView</name>
     <message>
         <source>Dictating into %1</source>
@@ -877,6 +1024,39 @@ Dictation can&apos;t work here yet.
     <message>
         <source>All entries</source>
         <translation>すべての項目</translation>
+    </message>
+</context>
+<context>
+    <name>HistorySection</name>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+    <message>
+        <source>Transcripts on this Mac</source>
+        <translation>このコンピューターの文字起こし</translation>
+    </message>
+    <message>
+        <source>Clear…</source>
+        <translation>消去…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete all %n transcripts?</source>
+        <translation>
+            <numerusform>%Ln件の文字起こしをすべて削除しますか？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They&apos;re stored only on this Mac, so this can&apos;t be undone.</source>
+        <translation>このコンピューターにしか保存されていないため、元に戻せません。</translation>
+    </message>
+    <message>
+        <source>Delete All</source>
+        <translation>すべて削除</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>バージョン %1</translation>
     </message>
 </context>
 <context>
@@ -953,6 +1133,124 @@ Dictation can&apos;t work here yet.
     </message>
 </context>
 <context>
+    <name>Menu</name>
+    <message>
+        <source>Unmetered (dev device)</source>
+        <translation>無制限（開発用デバイス）</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 tokens left</source>
+        <translation>
+            <numerusform>残り%L1トークン</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Today&apos;s free tokens for new users ran out before you joined.</source>
+        <translation>新規ユーザー向けの本日の無料トークンは、登録前に終了しました。</translation>
+    </message>
+    <message>
+        <source>Buy Tokens…</source>
+        <translation>トークンを購入…</translation>
+    </message>
+    <message>
+        <source>Allow pasting into other apps…</source>
+        <translation>他のアプリへの貼り付けを許可…</translation>
+    </message>
+    <message>
+        <source>All entries</source>
+        <translation>すべての項目</translation>
+    </message>
+    <message>
+        <source>Next Group</source>
+        <translation>次のグループ</translation>
+    </message>
+    <message>
+        <source>Edit Groups…</source>
+        <translation>グループを編集…</translation>
+    </message>
+    <message>
+        <source>Group: %1</source>
+        <translation>グループ: %1</translation>
+    </message>
+    <message>
+        <source>Hide History</source>
+        <translation>履歴を隠す</translation>
+    </message>
+    <message>
+        <source>Show History</source>
+        <translation>履歴を表示</translation>
+    </message>
+    <message>
+        <source>Copy Last Transcript</source>
+        <translation>最後の文字起こしをコピー</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>履歴を消去</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>最近</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>設定…</translation>
+    </message>
+    <message>
+        <source>Quit Quillo</source>
+        <translation>Quilloを終了</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionRow</name>
+    <message>
+        <source>Allowed</source>
+        <translation>許可済み</translation>
+    </message>
+    <message>
+        <source>Allow…</source>
+        <translation>許可…</translation>
+    </message>
+    <message>
+        <source>Allow %1</source>
+        <translation>%1を許可</translation>
+    </message>
+</context>
+<context>
+    <name>Permissions</name>
+    <message>
+        <source>Allow an input device in the sound settings</source>
+        <translation>サウンド設定で入力デバイスを許可してください</translation>
+    </message>
+    <message>
+        <source>Run “quillo doctor” to see what is missing</source>
+        <translation>「quillo doctor」で足りないものを確認できます</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionsSection</name>
+    <message>
+        <source>Permissions</source>
+        <translation>アクセス許可</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>マイク</translation>
+    </message>
+    <message>
+        <source>To hear what you say.</source>
+        <translation>話した内容を聞き取るため。</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>アクセシビリティ</translation>
+    </message>
+    <message>
+        <source>To paste into other apps. Without it, text is copied and you press ⌘V.</source>
+        <translation>他のアプリに貼り付けるため。許可がない場合はコピーされるので、Ctrl+V（端末ではCtrl+Shift+V）を押してください。</translation>
+    </message>
+</context>
+<context>
     <name>RecoverHistory</name>
     <message>
         <source>%1 can&apos;t be read.</source>
@@ -997,6 +1295,36 @@ Dictation can&apos;t work here yet.
     <message>
         <source>Clear search</source>
         <translation>検索をクリア</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>All entries</source>
+        <translation>すべての項目</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Open at login</source>
+        <translation>ログイン時に開く</translation>
+    </message>
+    <message>
+        <source>Quillo Settings</source>
+        <translation>Quilloの設定</translation>
+    </message>
+    <message>
+        <source>Keep recordings that couldn&apos;t be sent</source>
+        <translation>送信できなかった録音を残す</translation>
+    </message>
+    <message>
+        <source>For seven days. They are sent when the server answers again.</source>
+        <translation>7日間。サーバーが応答したら送信します。</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1436,67 @@ Dictation can&apos;t work here yet.
     </message>
 </context>
 <context>
+    <name>ShortcutRecorder</name>
+    <message>
+        <source>Type shortcut…</source>
+        <translation>キーを押してください…</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutSection</name>
+    <message>
+        <source>Shortcut</source>
+        <translation>ショートカット</translation>
+    </message>
+    <message>
+        <source>Press Esc while recording to cancel.</source>
+        <translation>録音中にEscを押すと取り消します。</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>起動方法</translation>
+    </message>
+    <message>
+        <source>Key combination</source>
+        <translation>キーの組み合わせ</translation>
+    </message>
+    <message>
+        <source>Hold a single key</source>
+        <translation>1つのキーを押し続ける</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>Set System Settings › Keyboard › “Press 🌐 key to” to “Do Nothing”, or the emoji picker opens too.</source>
+        <translation>多くのキーボードはFnキーを通知しません。押しても反応がない場合は、別のキーを選んでください。</translation>
+    </message>
+    <message>
+        <source>A single key needs Accessibility (below) before it works.</source>
+        <translation>1つのキーを使うには、下の「アクセシビリティ」が必要です。</translation>
+    </message>
+    <message>
+        <source>Behavior</source>
+        <translation>動作</translation>
+    </message>
+    <message>
+        <source>This key doesn&apos;t arrive here: the keyboard or the desktop keeps it to itself. Choose another one.</source>
+        <translation>このキーはここに届きません: キーボードかデスクトップが使っています。別のキーを選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>%1 is already used by another app. Pick a different shortcut.</source>
+        <translation>%1は他のアプリで使われています。別のショートカットを選んでください。</translation>
+    </message>
+    <message>
+        <source>%1 is already in use. Pick a different shortcut.</source>
+        <translation>%1は既に使われています。別のショートカットを選んでください。</translation>
+    </message>
+</context>
+<context>
     <name>Start</name>
     <message>
         <source>There is no session bus: no tray item but XEmbed&apos;s, no keyring, and commands can&apos;t reach Quillo.</source>
@@ -1170,6 +1559,26 @@ Dictation can&apos;t work here yet.
     </message>
 </context>
 <context>
+    <name>StatusStrip</name>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <translation>
+            <numerusform>%L1トークン</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1  next group   ·   %2  hide</source>
+        <translation>%1  次のグループ   ·   %2  隠す</translation>
+    </message>
+</context>
+<context>
+    <name>TokenBalance</name>
+    <message>
+        <source>Couldn&apos;t open the checkout page in a browser</source>
+        <translation>支払いページをブラウザーで開けませんでした</translation>
+    </message>
+</context>
+<context>
     <name>Transcribe</name>
     <message>
         <source>Standard input can&apos;t be read.</source>
@@ -1213,6 +1622,31 @@ Dictation can&apos;t work here yet.
     <message>
         <source>The history can&apos;t be read: a new one begins, the old file is kept</source>
         <translation>履歴を読み取れません: 新しく始め、古いファイルは残します</translation>
+    </message>
+</context>
+<context>
+    <name>UnsentStrip</name>
+    <message>
+        <source>Sending again…</source>
+        <translation>再送信中…</translation>
+    </message>
+    <message>
+        <source>One recording couldn&apos;t be sent.</source>
+        <translation>録音1件を送信できませんでした。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n recordings couldn&apos;t be sent.</source>
+        <translation>
+            <numerusform>録音%Ln件を送信できませんでした。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Send again</source>
+        <translation>再送信</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
     </message>
 </context>
 </TS>

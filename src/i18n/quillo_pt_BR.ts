@@ -88,6 +88,13 @@
     </message>
 </context>
 <context>
+    <name>AppModel</name>
+    <message>
+        <source>All entries</source>
+        <translation>Todas as entradas</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Hold the dictation shortcut</source>
@@ -199,6 +206,13 @@ Status de saída: 0 feito, 1 falhou, 2 linha de comando errada, 3 o Quillo não 
     </message>
 </context>
 <context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>CopyPill</name>
     <message>
         <source>COPIED</source>
@@ -215,6 +229,101 @@ Status de saída: 0 feito, 1 falhou, 2 linha de comando errada, 3 o Quillo não 
     <message>
         <source>Copy</source>
         <translation>Copiar</translation>
+    </message>
+</context>
+<context>
+    <name>DataSection</name>
+    <message>
+        <source>Data &amp; AI</source>
+        <translation>Dados e IA</translation>
+    </message>
+    <message>
+        <source>Sending to OpenAI</source>
+        <translation>Envio à OpenAI</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>Permitido</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desligado</translation>
+    </message>
+    <message>
+        <source>Review…</source>
+        <translation>Rever…</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>Tokens</translation>
+    </message>
+    <message>
+        <source>Unmetered</source>
+        <translation>Sem limite</translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <comment>number of tokens</comment>
+        <translation>%L1</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Atualizar</translation>
+    </message>
+</context>
+<context>
+    <name>Dictation</name>
+    <message>
+        <source>Listening… (Esc to cancel)</source>
+        <translation>Ouvindo… (Esc cancela)</translation>
+    </message>
+    <message>
+        <source>Transcribing…</source>
+        <translation>Transcrevendo…</translation>
+    </message>
+    <message>
+        <source>Hold %1 to dictate</source>
+        <translation>Segure %1 para ditar</translation>
+    </message>
+    <message>
+        <source>Tap %1 to dictate</source>
+        <translation>Toque em %1 para ditar</translation>
+    </message>
+    <message>
+        <source>Hold or tap %1 to dictate</source>
+        <translation>Segure ou toque em %1 para ditar</translation>
+    </message>
+    <message>
+        <source>Microphone access is off for Quillo</source>
+        <translation>O Quillo está sem acesso ao microfone</translation>
+    </message>
+    <message>
+        <source>Microphone on — press %1 to dictate</source>
+        <translation>Microfone ligado — pressione %1 para ditar</translation>
+    </message>
+    <message>
+        <source>The microphone was disconnected.</source>
+        <translation>O microfone foi desconectado.</translation>
+    </message>
+    <message>
+        <source>Nothing was recorded. Check the microphone.</source>
+        <translation>Nada foi gravado. Verifique o microfone.</translation>
+    </message>
+    <message>
+        <source>Didn&apos;t catch anything</source>
+        <translation>Não entendi nada</translation>
+    </message>
+    <message>
+        <source>Copied — press ⌘V to paste</source>
+        <translation>Copiado — cole com Ctrl+V (Ctrl+Shift+V no terminal)</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t paste. The text is in the history.</source>
+        <translation>Não foi possível colar. O texto está no histórico.</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Cancelado</translation>
     </message>
 </context>
 <context>
@@ -745,6 +854,13 @@ O ditado ainda não pode funcionar aqui.
     </message>
 </context>
 <context>
+    <name>GeneralSettings</name>
+    <message>
+        <source>Couldn&apos;t change Open at Login</source>
+        <translation>Não foi possível alterar Abrir ao iniciar a sessão</translation>
+    </message>
+</context>
+<context>
     <name>GroupCarousel</name>
     <message>
         <source>Current group</source>
@@ -835,6 +951,37 @@ O ditado ainda não pode funcionar aqui.
     </message>
 </context>
 <context>
+    <name>GroupsSection</name>
+    <message>
+        <source>Groups &amp; History</source>
+        <translation>Grupos e histórico</translation>
+    </message>
+    <message>
+        <source>New dictations go into the current group: %1.</source>
+        <translation>Novos ditados vão para o grupo atual: %1.</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>Próximo grupo</translation>
+    </message>
+    <message>
+        <source>Show or hide history</source>
+        <translation>Mostrar ou ocultar o histórico</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Grupos</translation>
+    </message>
+    <message>
+        <source>Edit…</source>
+        <translation>Editar…</translation>
+    </message>
+    <message>
+        <source>Edit groups</source>
+        <translation>Editar grupos</translation>
+    </message>
+</context>
+<context>
     <name>HUDView</name>
     <message>
         <source>Dictating into %1</source>
@@ -881,6 +1028,40 @@ O ditado ainda não pode funcionar aqui.
     <message>
         <source>All entries</source>
         <translation>Todas as entradas</translation>
+    </message>
+</context>
+<context>
+    <name>HistorySection</name>
+    <message>
+        <source>History</source>
+        <translation>Histórico</translation>
+    </message>
+    <message>
+        <source>Transcripts on this Mac</source>
+        <translation>Transcrições neste computador</translation>
+    </message>
+    <message>
+        <source>Clear…</source>
+        <translation>Limpar…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete all %n transcripts?</source>
+        <translation>
+            <numerusform>Excluir a transcrição?</numerusform>
+            <numerusform>Excluir todas as %Ln transcrições?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They&apos;re stored only on this Mac, so this can&apos;t be undone.</source>
+        <translation>Elas só existem neste computador; não é possível desfazer.</translation>
+    </message>
+    <message>
+        <source>Delete All</source>
+        <translation>Excluir tudo</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versão %1</translation>
     </message>
 </context>
 <context>
@@ -957,6 +1138,125 @@ O ditado ainda não pode funcionar aqui.
     </message>
 </context>
 <context>
+    <name>Menu</name>
+    <message>
+        <source>Unmetered (dev device)</source>
+        <translation>Sem limite (dispositivo de desenvolvimento)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 tokens left</source>
+        <translation>
+            <numerusform>Resta %L1 token</numerusform>
+            <numerusform>Restam %L1 tokens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Today&apos;s free tokens for new users ran out before you joined.</source>
+        <translation>Os tokens grátis de hoje para novos usuários acabaram antes de você entrar.</translation>
+    </message>
+    <message>
+        <source>Buy Tokens…</source>
+        <translation>Comprar tokens…</translation>
+    </message>
+    <message>
+        <source>Allow pasting into other apps…</source>
+        <translation>Permitir colar em outros aplicativos…</translation>
+    </message>
+    <message>
+        <source>All entries</source>
+        <translation>Todas as entradas</translation>
+    </message>
+    <message>
+        <source>Next Group</source>
+        <translation>Próximo grupo</translation>
+    </message>
+    <message>
+        <source>Edit Groups…</source>
+        <translation>Editar grupos…</translation>
+    </message>
+    <message>
+        <source>Group: %1</source>
+        <translation>Grupo: %1</translation>
+    </message>
+    <message>
+        <source>Hide History</source>
+        <translation>Ocultar histórico</translation>
+    </message>
+    <message>
+        <source>Show History</source>
+        <translation>Mostrar histórico</translation>
+    </message>
+    <message>
+        <source>Copy Last Transcript</source>
+        <translation>Copiar última transcrição</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>Limpar histórico</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Recentes</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Configurações…</translation>
+    </message>
+    <message>
+        <source>Quit Quillo</source>
+        <translation>Sair do Quillo</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionRow</name>
+    <message>
+        <source>Allowed</source>
+        <translation>Permitido</translation>
+    </message>
+    <message>
+        <source>Allow…</source>
+        <translation>Permitir…</translation>
+    </message>
+    <message>
+        <source>Allow %1</source>
+        <translation>Permitir %1</translation>
+    </message>
+</context>
+<context>
+    <name>Permissions</name>
+    <message>
+        <source>Allow an input device in the sound settings</source>
+        <translation>Permita um dispositivo de entrada nas configurações de som</translation>
+    </message>
+    <message>
+        <source>Run “quillo doctor” to see what is missing</source>
+        <translation>Execute “quillo doctor” para ver o que falta</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionsSection</name>
+    <message>
+        <source>Permissions</source>
+        <translation>Permissões</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microfone</translation>
+    </message>
+    <message>
+        <source>To hear what you say.</source>
+        <translation>Para ouvir o que você diz.</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Acessibilidade</translation>
+    </message>
+    <message>
+        <source>To paste into other apps. Without it, text is copied and you press ⌘V.</source>
+        <translation>Para colar em outros aplicativos. Sem ela, o texto é copiado e você pressiona Ctrl+V (Ctrl+Shift+V em um terminal).</translation>
+    </message>
+</context>
+<context>
     <name>RecoverHistory</name>
     <message>
         <source>%1 can&apos;t be read.</source>
@@ -1003,6 +1303,36 @@ O ditado ainda não pode funcionar aqui.
     <message>
         <source>Clear search</source>
         <translation>Limpar pesquisa</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>All entries</source>
+        <translation>Todas as entradas</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>General</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>Open at login</source>
+        <translation>Abrir ao iniciar a sessão</translation>
+    </message>
+    <message>
+        <source>Quillo Settings</source>
+        <translation>Configurações do Quillo</translation>
+    </message>
+    <message>
+        <source>Keep recordings that couldn&apos;t be sent</source>
+        <translation>Manter gravações não enviadas</translation>
+    </message>
+    <message>
+        <source>For seven days. They are sent when the server answers again.</source>
+        <translation>Por sete dias. São enviadas quando o servidor voltar a responder.</translation>
     </message>
 </context>
 <context>
@@ -1114,6 +1444,67 @@ O ditado ainda não pode funcionar aqui.
     </message>
 </context>
 <context>
+    <name>ShortcutRecorder</name>
+    <message>
+        <source>Type shortcut…</source>
+        <translation>Pressione o atalho…</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutSection</name>
+    <message>
+        <source>Shortcut</source>
+        <translation>Atalho</translation>
+    </message>
+    <message>
+        <source>Press Esc while recording to cancel.</source>
+        <translation>Pressione Esc durante a gravação para cancelar.</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Acionamento</translation>
+    </message>
+    <message>
+        <source>Key combination</source>
+        <translation>Combinação de teclas</translation>
+    </message>
+    <message>
+        <source>Hold a single key</source>
+        <translation>Segurar uma tecla</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Tecla</translation>
+    </message>
+    <message>
+        <source>Set System Settings › Keyboard › “Press 🌐 key to” to “Do Nothing”, or the emoji picker opens too.</source>
+        <translation>A maioria dos teclados não informa a tecla Fn. Se nada acontecer ao segurá-la, escolha outra.</translation>
+    </message>
+    <message>
+        <source>A single key needs Accessibility (below) before it works.</source>
+        <translation>Uma única tecla precisa de Acessibilidade (abaixo) para funcionar.</translation>
+    </message>
+    <message>
+        <source>Behavior</source>
+        <translation>Comportamento</translation>
+    </message>
+    <message>
+        <source>This key doesn&apos;t arrive here: the keyboard or the desktop keeps it to itself. Choose another one.</source>
+        <translation>Esta tecla não chega aqui: o teclado ou a área de trabalho fica com ela. Escolha outra.</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>%1 is already used by another app. Pick a different shortcut.</source>
+        <translation>%1 já é usado por outro aplicativo. Escolha outro atalho.</translation>
+    </message>
+    <message>
+        <source>%1 is already in use. Pick a different shortcut.</source>
+        <translation>%1 já está em uso. Escolha outro atalho.</translation>
+    </message>
+</context>
+<context>
     <name>Start</name>
     <message>
         <source>There is no session bus: no tray item but XEmbed&apos;s, no keyring, and commands can&apos;t reach Quillo.</source>
@@ -1176,6 +1567,27 @@ O ditado ainda não pode funcionar aqui.
     </message>
 </context>
 <context>
+    <name>StatusStrip</name>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <translation>
+            <numerusform>%L1 token</numerusform>
+            <numerusform>%L1 tokens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1  next group   ·   %2  hide</source>
+        <translation>%1  próximo grupo   ·   %2  ocultar</translation>
+    </message>
+</context>
+<context>
+    <name>TokenBalance</name>
+    <message>
+        <source>Couldn&apos;t open the checkout page in a browser</source>
+        <translation>Não foi possível abrir a página de pagamento no navegador</translation>
+    </message>
+</context>
+<context>
     <name>Transcribe</name>
     <message>
         <source>Standard input can&apos;t be read.</source>
@@ -1219,6 +1631,32 @@ O ditado ainda não pode funcionar aqui.
     <message>
         <source>The history can&apos;t be read: a new one begins, the old file is kept</source>
         <translation>Não é possível ler o histórico: começa um novo, o arquivo antigo é mantido</translation>
+    </message>
+</context>
+<context>
+    <name>UnsentStrip</name>
+    <message>
+        <source>Sending again…</source>
+        <translation>Enviando de novo…</translation>
+    </message>
+    <message>
+        <source>One recording couldn&apos;t be sent.</source>
+        <translation>Uma gravação não pôde ser enviada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n recordings couldn&apos;t be sent.</source>
+        <translation>
+            <numerusform>%Ln gravação não pôde ser enviada.</numerusform>
+            <numerusform>%Ln gravações não puderam ser enviadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Send again</source>
+        <translation>Enviar de novo</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Excluir</translation>
     </message>
 </context>
 </TS>

@@ -85,6 +85,13 @@
     </message>
 </context>
 <context>
+    <name>AppModel</name>
+    <message>
+        <source>All entries</source>
+        <translation>所有条目</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Hold the dictation shortcut</source>
@@ -196,6 +203,13 @@ Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t 
     </message>
 </context>
 <context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>CopyPill</name>
     <message>
         <source>COPIED</source>
@@ -212,6 +226,101 @@ Exit status: 0 done, 1 failed, 2 the command line is wrong, 3 Quillo isn&apos;t 
     <message>
         <source>Copy</source>
         <translation>复制</translation>
+    </message>
+</context>
+<context>
+    <name>DataSection</name>
+    <message>
+        <source>Data &amp; AI</source>
+        <translation>数据与 AI</translation>
+    </message>
+    <message>
+        <source>Sending to OpenAI</source>
+        <translation>发送到 OpenAI</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>已允许</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Review…</source>
+        <translation>查看…</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>令牌</translation>
+    </message>
+    <message>
+        <source>Unmetered</source>
+        <translation>不限量</translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <comment>number of tokens</comment>
+        <translation>%L1</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>刷新</translation>
+    </message>
+</context>
+<context>
+    <name>Dictation</name>
+    <message>
+        <source>Listening… (Esc to cancel)</source>
+        <translation>正在聆听…（Esc 取消）</translation>
+    </message>
+    <message>
+        <source>Transcribing…</source>
+        <translation>正在转写…</translation>
+    </message>
+    <message>
+        <source>Hold %1 to dictate</source>
+        <translation>按住 %1 开始听写</translation>
+    </message>
+    <message>
+        <source>Tap %1 to dictate</source>
+        <translation>按 %1 开始听写</translation>
+    </message>
+    <message>
+        <source>Hold or tap %1 to dictate</source>
+        <translation>按住或轻按 %1 开始听写</translation>
+    </message>
+    <message>
+        <source>Microphone access is off for Quillo</source>
+        <translation>Quillo 的麦克风权限已关闭</translation>
+    </message>
+    <message>
+        <source>Microphone on — press %1 to dictate</source>
+        <translation>麦克风已开启 — 按 %1 开始听写</translation>
+    </message>
+    <message>
+        <source>The microphone was disconnected.</source>
+        <translation>麦克风已断开。</translation>
+    </message>
+    <message>
+        <source>Nothing was recorded. Check the microphone.</source>
+        <translation>没有录到声音。请检查麦克风。</translation>
+    </message>
+    <message>
+        <source>Didn&apos;t catch anything</source>
+        <translation>没有听到内容</translation>
+    </message>
+    <message>
+        <source>Copied — press ⌘V to paste</source>
+        <translation>已复制 — 按 Ctrl+V 粘贴（终端中按 Ctrl+Shift+V）</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t paste. The text is in the history.</source>
+        <translation>无法粘贴。文字在历史记录中。</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>已取消</translation>
     </message>
 </context>
 <context>
@@ -742,6 +851,13 @@ Dictation can&apos;t work here yet.
     </message>
 </context>
 <context>
+    <name>GeneralSettings</name>
+    <message>
+        <source>Couldn&apos;t change Open at Login</source>
+        <translation>无法更改“登录时打开”</translation>
+    </message>
+</context>
+<context>
     <name>GroupCarousel</name>
     <message>
         <source>Current group</source>
@@ -832,6 +948,37 @@ Dictation can&apos;t work here yet.
     </message>
 </context>
 <context>
+    <name>GroupsSection</name>
+    <message>
+        <source>Groups &amp; History</source>
+        <translation>群组与历史记录</translation>
+    </message>
+    <message>
+        <source>New dictations go into the current group: %1.</source>
+        <translation>新的听写会存入当前群组：%1。</translation>
+    </message>
+    <message>
+        <source>Next group</source>
+        <translation>下一群组</translation>
+    </message>
+    <message>
+        <source>Show or hide history</source>
+        <translation>显示或隐藏历史记录</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>群组</translation>
+    </message>
+    <message>
+        <source>Edit…</source>
+        <translation>编辑…</translation>
+    </message>
+    <message>
+        <source>Edit groups</source>
+        <translation>编辑群组</translation>
+    </message>
+</context>
+<context>
     <name>HUDView</name>
     <message>
         <source>Dictating into %1</source>
@@ -877,6 +1024,39 @@ Dictation can&apos;t work here yet.
     <message>
         <source>All entries</source>
         <translation>所有条目</translation>
+    </message>
+</context>
+<context>
+    <name>HistorySection</name>
+    <message>
+        <source>History</source>
+        <translation>历史记录</translation>
+    </message>
+    <message>
+        <source>Transcripts on this Mac</source>
+        <translation>这台计算机上的转写</translation>
+    </message>
+    <message>
+        <source>Clear…</source>
+        <translation>清空…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete all %n transcripts?</source>
+        <translation>
+            <numerusform>要删除全部 %Ln 条转写吗？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They&apos;re stored only on this Mac, so this can&apos;t be undone.</source>
+        <translation>它们只保存在这台计算机上，此操作无法撤销。</translation>
+    </message>
+    <message>
+        <source>Delete All</source>
+        <translation>全部删除</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>版本 %1</translation>
     </message>
 </context>
 <context>
@@ -953,6 +1133,124 @@ Dictation can&apos;t work here yet.
     </message>
 </context>
 <context>
+    <name>Menu</name>
+    <message>
+        <source>Unmetered (dev device)</source>
+        <translation>不限量（开发设备）</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 tokens left</source>
+        <translation>
+            <numerusform>剩余 %L1 个令牌</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Today&apos;s free tokens for new users ran out before you joined.</source>
+        <translation>今天面向新用户的免费令牌在您加入前已发完。</translation>
+    </message>
+    <message>
+        <source>Buy Tokens…</source>
+        <translation>购买令牌…</translation>
+    </message>
+    <message>
+        <source>Allow pasting into other apps…</source>
+        <translation>允许粘贴到其他应用…</translation>
+    </message>
+    <message>
+        <source>All entries</source>
+        <translation>所有条目</translation>
+    </message>
+    <message>
+        <source>Next Group</source>
+        <translation>下一群组</translation>
+    </message>
+    <message>
+        <source>Edit Groups…</source>
+        <translation>编辑群组…</translation>
+    </message>
+    <message>
+        <source>Group: %1</source>
+        <translation>群组：%1</translation>
+    </message>
+    <message>
+        <source>Hide History</source>
+        <translation>隐藏历史记录</translation>
+    </message>
+    <message>
+        <source>Show History</source>
+        <translation>显示历史记录</translation>
+    </message>
+    <message>
+        <source>Copy Last Transcript</source>
+        <translation>复制最近的转写</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>清除历史记录</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>最近</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>设置…</translation>
+    </message>
+    <message>
+        <source>Quit Quillo</source>
+        <translation>退出 Quillo</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionRow</name>
+    <message>
+        <source>Allowed</source>
+        <translation>已允许</translation>
+    </message>
+    <message>
+        <source>Allow…</source>
+        <translation>允许…</translation>
+    </message>
+    <message>
+        <source>Allow %1</source>
+        <translation>允许%1</translation>
+    </message>
+</context>
+<context>
+    <name>Permissions</name>
+    <message>
+        <source>Allow an input device in the sound settings</source>
+        <translation>请在声音设置中允许一个输入设备</translation>
+    </message>
+    <message>
+        <source>Run “quillo doctor” to see what is missing</source>
+        <translation>运行 “quillo doctor” 查看缺少什么</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionsSection</name>
+    <message>
+        <source>Permissions</source>
+        <translation>权限</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>麦克风</translation>
+    </message>
+    <message>
+        <source>To hear what you say.</source>
+        <translation>用于听取您说的话。</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>辅助功能</translation>
+    </message>
+    <message>
+        <source>To paste into other apps. Without it, text is copied and you press ⌘V.</source>
+        <translation>用于粘贴到其他应用。未允许时文本会被复制，请按 Ctrl+V（终端中按 Ctrl+Shift+V）。</translation>
+    </message>
+</context>
+<context>
     <name>RecoverHistory</name>
     <message>
         <source>%1 can&apos;t be read.</source>
@@ -997,6 +1295,36 @@ Dictation can&apos;t work here yet.
     <message>
         <source>Clear search</source>
         <translation>清除搜索</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>All entries</source>
+        <translation>所有条目</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>General</source>
+        <translation>通用</translation>
+    </message>
+    <message>
+        <source>Open at login</source>
+        <translation>登录时打开</translation>
+    </message>
+    <message>
+        <source>Quillo Settings</source>
+        <translation>Quillo 设置</translation>
+    </message>
+    <message>
+        <source>Keep recordings that couldn&apos;t be sent</source>
+        <translation>保留未能发送的录音</translation>
+    </message>
+    <message>
+        <source>For seven days. They are sent when the server answers again.</source>
+        <translation>保留七天。服务器恢复应答后自动发送。</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1436,67 @@ Dictation can&apos;t work here yet.
     </message>
 </context>
 <context>
+    <name>ShortcutRecorder</name>
+    <message>
+        <source>Type shortcut…</source>
+        <translation>请按快捷键…</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutSection</name>
+    <message>
+        <source>Shortcut</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>Press Esc while recording to cancel.</source>
+        <translation>录音时按 Esc 取消。</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>触发方式</translation>
+    </message>
+    <message>
+        <source>Key combination</source>
+        <translation>组合键</translation>
+    </message>
+    <message>
+        <source>Hold a single key</source>
+        <translation>按住单个键</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Set System Settings › Keyboard › “Press 🌐 key to” to “Do Nothing”, or the emoji picker opens too.</source>
+        <translation>多数键盘不会上报 Fn 键。如果按住没有反应，请选择其他按键。</translation>
+    </message>
+    <message>
+        <source>A single key needs Accessibility (below) before it works.</source>
+        <translation>单个按键需要先允许下面的“辅助功能”。</translation>
+    </message>
+    <message>
+        <source>Behavior</source>
+        <translation>行为</translation>
+    </message>
+    <message>
+        <source>This key doesn&apos;t arrive here: the keyboard or the desktop keeps it to itself. Choose another one.</source>
+        <translation>此处收不到该键：键盘或桌面占用了它。请选择其他按键。</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcuts</name>
+    <message>
+        <source>%1 is already used by another app. Pick a different shortcut.</source>
+        <translation>%1 已被其他应用使用。请选择其他快捷键。</translation>
+    </message>
+    <message>
+        <source>%1 is already in use. Pick a different shortcut.</source>
+        <translation>%1 已被占用。请选择其他快捷键。</translation>
+    </message>
+</context>
+<context>
     <name>Start</name>
     <message>
         <source>There is no session bus: no tray item but XEmbed&apos;s, no keyring, and commands can&apos;t reach Quillo.</source>
@@ -1170,6 +1559,26 @@ Dictation can&apos;t work here yet.
     </message>
 </context>
 <context>
+    <name>StatusStrip</name>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <translation>
+            <numerusform>%L1 个令牌</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1  next group   ·   %2  hide</source>
+        <translation>%1  下一群组   ·   %2  隐藏</translation>
+    </message>
+</context>
+<context>
+    <name>TokenBalance</name>
+    <message>
+        <source>Couldn&apos;t open the checkout page in a browser</source>
+        <translation>无法在浏览器中打开付款页面</translation>
+    </message>
+</context>
+<context>
     <name>Transcribe</name>
     <message>
         <source>Standard input can&apos;t be read.</source>
@@ -1213,6 +1622,31 @@ Dictation can&apos;t work here yet.
     <message>
         <source>The history can&apos;t be read: a new one begins, the old file is kept</source>
         <translation>无法读取历史记录：将新建，旧文件保留</translation>
+    </message>
+</context>
+<context>
+    <name>UnsentStrip</name>
+    <message>
+        <source>Sending again…</source>
+        <translation>正在重新发送…</translation>
+    </message>
+    <message>
+        <source>One recording couldn&apos;t be sent.</source>
+        <translation>有 1 条录音未能发送。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n recordings couldn&apos;t be sent.</source>
+        <translation>
+            <numerusform>有 %Ln 条录音未能发送。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Send again</source>
+        <translation>重新发送</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
     </message>
 </context>
 </TS>

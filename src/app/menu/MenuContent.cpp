@@ -8,11 +8,17 @@
 #include "platform/Pasteboard.h"
 #include "platform/Platform.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+struct Menu {
+    Q_DECLARE_TR_FUNCTIONS(Menu)
+};
 
 using Kind = MenuItem::Kind;
 
@@ -54,23 +60,24 @@ QList<MenuItem> status(AppModel &model)
     QList<MenuItem> items{text(model.statusText())};
     const auto balance = model.balance();
     if (model.isUnmetered()) {
-        items.append(text(u"Unmetered (dev device)"_s));
+        items.append(text(Menu::tr("Unmetered (dev device)")));
     } else {
         if (balance) {
-            items.append(text(QString::number(*balance) + u" tokens left"_s));
+            items.append(
+                text(Menu::tr("%1 tokens left", nullptr, int(std::min<qint64>(*balance, 1000))).arg(*balance)));
         }
         if (balance == 0 && model.freeGrantMissed()) {
-            items.append(text(u"Today's free tokens for new users ran out before you joined."_s));
+            items.append(text(Menu::tr("Today's free tokens for new users ran out before you joined.")));
         }
-        items.append(button(u"Buy Tokens…"_s, [&model] { model.buyTokens(); }));
+        items.append(button(Menu::tr("Buy Tokens…"), [&model] { model.buyTokens(); }));
     }
     if (const auto &error = model.shortcutError()) {
         items.append(text(u"⚠\uFE0E "_s + *error));
     }
     if (!model.isTrusted()) {
         items.append(separator());
-        items.append(
-            button(u"⚠\uFE0E Allow pasting into other apps…"_s, [&model] { model.permissions().fixAccessibility(); }));
+        items.append(button(u"⚠\uFE0E "_s + Menu::tr("Allow pasting into other apps…"),
+                            [&model] { model.permissions().fixAccessibility(); }));
     }
     return items;
 }
@@ -87,30 +94,30 @@ MenuItem groupMenu(AppModel &model)
 {
     GroupStore &groups = model.groups();
     const auto active = groups.group(groups.activeId());
-    const QString all = u"All entries"_s;
+    const QString all = Menu::tr("All entries");
 
     QList<MenuItem> items{choice(all, std::nullopt, groups, !active)};
     for (const DictationGroup &group : groups.groups()) {
         items.append(choice(group.name, group.id, groups, active && active->id == group.id));
     }
-    MenuItem next = button(u"Next Group"_s, [&model] { model.cycleGroup(true); });
+    MenuItem next = button(Menu::tr("Next Group"), [&model] { model.cycleGroup(true); });
     next.shortcut = model.groupShortcut().menuShortcut();
-    items.append({separator(), next, button(u"Edit Groups…"_s, [&model] { model.historyWindow().show(true); })});
-    return {.kind = Kind::Submenu, .title = u"Group: "_s + (active ? active->name : all), .children = items};
+    items.append({separator(), next, button(Menu::tr("Edit Groups…"), [&model] { model.historyWindow().show(true); })});
+    return {.kind = Kind::Submenu, .title = Menu::tr("Group: %1").arg(active ? active->name : all), .children = items};
 }
 
 MenuItem historyToggle(AppModel &model)
 {
     HistoryWindow &window = model.historyWindow();
-    MenuItem item = window.isVisible() ? button(u"Hide History"_s, [&window] { window.hide(); })
-                                       : button(u"Show History"_s, [&window] { window.show(false); });
+    MenuItem item = window.isVisible() ? button(Menu::tr("Hide History"), [&window] { window.hide(); })
+                                       : button(Menu::tr("Show History"), [&window] { window.show(false); });
     item.shortcut = model.historyShortcut().menuShortcut();
     return item;
 }
 
 MenuItem copyLast(TranscriptionStore &store, Pasteboard &pasteboard)
 {
-    const QString title = u"Copy Last Transcript"_s;
+    const QString title = Menu::tr("Copy Last Transcript");
     if (store.items().isEmpty()) {
         return {.kind = Kind::Button, .title = title, .isEnabled = false};
     }
@@ -127,9 +134,9 @@ MenuItem recentMenu(TranscriptionStore &store, Pasteboard &pasteboard)
         items.append(copying(shortened(line, longestTitle), entry.text, pasteboard));
     }
     if (!items.isEmpty()) {
-        items.append({separator(), button(u"Clear History"_s, [&store] { store.clear(); })});
+        items.append({separator(), button(Menu::tr("Clear History"), [&store] { store.clear(); })});
     }
-    return {.kind = Kind::Submenu, .title = u"Recent"_s, .isEnabled = !items.isEmpty(), .children = items};
+    return {.kind = Kind::Submenu, .title = Menu::tr("Recent"), .isEnabled = !items.isEmpty(), .children = items};
 }
 
 } // namespace
@@ -139,7 +146,8 @@ QList<MenuItem> menuContent(AppModel &model, const Platform &platform)
     QList<MenuItem> items = status(model);
     items.append({separator(), groupMenu(model), historyToggle(model), separator(),
                   copyLast(model.store(), platform.pasteboard), recentMenu(model.store(), platform.pasteboard),
-                  separator(), command(u"Settings…"_s, u","_s, [&model] { model.settingsWindow().show(); }),
-                  separator(), command(u"Quit Quillo"_s, u"q"_s, [&platform] { platform.application.terminate(); })});
+                  separator(), command(Menu::tr("Settings…"), u","_s, [&model] { model.settingsWindow().show(); }),
+                  separator(),
+                  command(Menu::tr("Quit Quillo"), u"q"_s, [&platform] { platform.application.terminate(); })});
     return items;
 }

@@ -81,6 +81,6 @@ void AppModel::cycleGroup(bool forward)
     m_groups.cycle(forward);
     if (state().value == State::Case::Idle) {
         const auto group = m_groups.group(m_groups.activeId());
-        m_hud.show(HUDPhase::Group{group ? group->name : u"All entries"_s});
+        m_hud.show(HUDPhase::Group{group ? group->name : tr("All entries")});
     }
 }

@@ -79,17 +79,17 @@ QString Dictation::statusText() const
 {
     switch (m_state.value) {
     case State::Case::Recording:
-        return u"Listening… (Esc to cancel)"_s;
+        return tr("Listening… (Esc to cancel)");
     case State::Case::Transcribing:
-        return u"Transcribing…"_s;
+        return tr("Transcribing…");
     case State::Case::Idle:
         break;
     }
     const TriggerMode mode = m_shortcuts.triggerMode();
-    const QString gesture = mode == TriggerMode::Hold     ? u"Hold "_s
-                            : mode == TriggerMode::Toggle ? u"Tap "_s
-                                                          : u"Hold or tap "_s;
-    return gesture + m_shortcuts.dictationLabel() + u" to dictate"_s;
+    const QString gesture = mode == TriggerMode::Hold     ? tr("Hold %1 to dictate")
+                            : mode == TriggerMode::Toggle ? tr("Tap %1 to dictate")
+                                                          : tr("Hold or tap %1 to dictate");
+    return gesture.arg(m_shortcuts.dictationLabel());
 }
 
 void Dictation::handle(ShortcutEvent event)
@@ -176,7 +176,7 @@ bool Dictation::mayRecord()
         askForMicrophone();
         return false;
     case AudioRecorder::Permission::Denied:
-        m_hud.show(problem(u"Microphone access is off for Quillo"_s));
+        m_hud.show(problem(tr("Microphone access is off for Quillo")));
         m_platform.workspace.openPrivacySettings(Workspace::PrivacyPane::Microphone); // the message says the rest
         return false;
     case AudioRecorder::Permission::Granted:
@@ -188,7 +188,7 @@ bool Dictation::mayRecord()
 QCoro::Task<void> Dictation::askForMicrophone()
 {
     if (co_await m_permissions.requestMicrophone()) {
-        m_hud.notify(notice(u"Microphone on — press "_s + m_shortcuts.dictationLabel() + u" to dictate"_s));
+        m_hud.notify(notice(tr("Microphone on — press %1 to dictate").arg(m_shortcuts.dictationLabel())));
     }
 }
 
@@ -222,11 +222,11 @@ void Dictation::dropRecording(const std::optional<Recording> &recording)
     }
     setState({});
     if (m_hasLostMicrophone) {
-        m_hud.show(problem(u"The microphone was disconnected."_s));
+        m_hud.show(problem(tr("The microphone was disconnected.")));
     } else if (recording) {
         m_hud.hide();
     } else {
-        m_hud.show(problem(u"Nothing was recorded. Check the microphone."_s));
+        m_hud.show(problem(tr("Nothing was recorded. Check the microphone.")));
     }
 }
 
@@ -241,7 +241,7 @@ void Dictation::cancel(bool silently)
     if (silently) {
         m_hud.hide();
     } else {
-        m_hud.show(notice(u"Cancelled"_s));
+        m_hud.show(notice(tr("Cancelled")));
     }
 }
 
@@ -301,7 +301,7 @@ QCoro::Task<void> Dictation::deliver(QString text, std::optional<QString> groupI
 {
     if (text.isEmpty()) {
         setState({});
-        m_hud.show(problem(u"Didn't catch anything"_s));
+        m_hud.show(problem(tr("Didn't catch anything")));
         co_return;
     }
     // The group may have been deleted since.
@@ -315,9 +315,9 @@ QCoro::Task<void> Dictation::deliver(QString text, std::optional<QString> groupI
         m_hud.retract(HUDPhase::Transcribing{});
     }
     if (outcome == TextInserter::Outcome::Copied) {
-        m_hud.notify(notice(u"Copied — press ⌘V to paste"_s));
+        m_hud.notify(notice(tr("Copied — press ⌘V to paste")));
     } else if (outcome == TextInserter::Outcome::Refused) {
-        m_hud.notify(problem(u"Couldn't paste. The text is in the history."_s));
+        m_hud.notify(problem(tr("Couldn't paste. The text is in the history.")));
     }
 }
 

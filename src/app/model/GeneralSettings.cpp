@@ -29,7 +29,7 @@ void GeneralSettings::setLaunchesAtLogin(bool launches)
     const bool isChanged = launches ? m_loginItem.registerApp() : m_loginItem.unregisterApp();
     Q_EMIT launchesAtLoginChanged();
     if (!isChanged) {
-        m_hud.notify(HUDPhase::Message{u"Couldn't change Open at Login"_s, true});
+        m_hud.notify(HUDPhase::Message{tr("Couldn't change Open at Login"), true});
     }
 }
 

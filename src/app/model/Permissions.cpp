@@ -65,7 +65,7 @@ void Permissions::fixMicrophone()
     if (m_microphone == AudioRecorder::Permission::Undetermined) {
         requestMicrophone();
     } else if (!m_platform.workspace.openPrivacySettings(Workspace::PrivacyPane::Microphone)) {
-        m_hud.notify(HUDPhase::Message{u"Allow an input device in the sound settings"_s, true});
+        m_hud.notify(HUDPhase::Message{tr("Allow an input device in the sound settings"), true});
     }
 }
 
@@ -73,7 +73,7 @@ void Permissions::fixAccessibility()
 {
     m_platform.accessibility.promptForTrust();
     if (!m_platform.workspace.openPrivacySettings(Workspace::PrivacyPane::Accessibility)) {
-        m_hud.notify(HUDPhase::Message{u"Run “quillo doctor” to see what is missing"_s, true});
+        m_hud.notify(HUDPhase::Message{tr("Run “quillo doctor” to see what is missing"), true});
     }
 }
 

@@ -115,9 +115,10 @@ void Shortcuts::armShortcut()
     }
     const Shortcut &shortcut = at(Use::Dictation).shortcut;
     const bool isArmed = m_monitor.activate(shortcut);
-    setError(Use::Dictation, isArmed ? std::nullopt
-                                     : std::optional(shortcut.label() +
-                                                     u" is already used by another app. Pick a different shortcut."_s));
+    setError(Use::Dictation,
+             isArmed ? std::nullopt
+                     : std::optional(
+                           tr("%1 is already used by another app. Pick a different shortcut.").arg(shortcut.label())));
 }
 
 void Shortcuts::armWindowShortcuts()
@@ -153,9 +154,10 @@ void Shortcuts::armWindowShortcut(Use use, void (Shortcuts::*pressed)())
                 }
             });
     }
-    setError(use, entry.hotKey
-                      ? std::nullopt
-                      : std::optional(entry.shortcut.label() + u" is already in use. Pick a different shortcut."_s));
+    setError(use,
+             entry.hotKey
+                 ? std::nullopt
+                 : std::optional(tr("%1 is already in use. Pick a different shortcut.").arg(entry.shortcut.label())));
 }
 
 void Shortcuts::setError(Use use, const std::optional<QString> &error)

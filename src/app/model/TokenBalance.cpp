@@ -73,7 +73,7 @@ QCoro::Task<void> TokenBalance::openCheckout()
         const QUrl link = co_await m_client.checkoutLink();
         const bool isPage = link.scheme() == u"https" || link.scheme() == u"http";
         if (!isPage || !m_workspace.open(link)) {
-            m_hud.notify(HUDPhase::Message{u"Couldn't open the checkout page in a browser"_s, true});
+            m_hud.notify(HUDPhase::Message{tr("Couldn't open the checkout page in a browser"), true});
             co_return;
         }
     } catch (const LocalizedError &error) {

@@ -62,12 +62,12 @@ Column {
             visible: strip.balance.isKnown
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
             width: visible ? implicitWidth : 0
-            label: visible ? strip.balance.tokens + " tokens" : ""
+            label: visible ? qsTr("%1 tokens", "", Math.min(strip.balance.tokens, 1000)).arg(strip.balance.tokens) : ""
         }
     }
 
     MetaLabel {
         width: parent.width
-        label: strip.shortcuts.groupLabel + "  next group   ·   " + strip.shortcuts.historyLabel + "  hide"
+        label: qsTr("%1  next group   ·   %2  hide").arg(strip.shortcuts.groupLabel).arg(strip.shortcuts.historyLabel)
     }
 }

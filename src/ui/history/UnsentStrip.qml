@@ -15,9 +15,9 @@ Item {
         id: sentence
 
         anchors { left: parent.left; right: buttons.left; rightMargin: 12; verticalCenter: parent.verticalCenter }
-        text: strip.unsent.isSending ? "Sending again…"
-            : strip.unsent.count === 1 ? "One recording couldn't be sent."
-                                       : strip.unsent.count + " recordings couldn't be sent."
+        text: strip.unsent.isSending ? qsTr("Sending again…")
+            : strip.unsent.count === 1 ? qsTr("One recording couldn't be sent.")
+                                       : qsTr("%n recordings couldn't be sent.", "", strip.unsent.count)
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         font: Paper.sans(13)
@@ -32,12 +32,12 @@ Item {
         spacing: 8
 
         PillButtonStyle {
-            text: "Send again"
+            text: qsTr("Send again")
             enabled: !strip.unsent.isSending
             onClicked: strip.unsent.sendAgain()
         }
         PillButtonStyle {
-            text: "Delete"
+            text: qsTr("Delete")
             onClicked: strip.unsent.deleteAll()
         }
     }

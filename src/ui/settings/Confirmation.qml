@@ -73,7 +73,7 @@ T.Popup {
             id: cancel
 
             width: parent.width
-            text: "Cancel"
+            text: qsTr("Cancel")
             onClicked: dialog.close()
         }
     }

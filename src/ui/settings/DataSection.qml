@@ -9,28 +9,28 @@ FormSection {
     required property PermissionProperties permissions
     required property BalanceProperties balance
 
-    title: "Data & AI"
+    title: qsTr("Data & AI")
 
     FormRow {
-        label: "Sending to OpenAI"
+        label: qsTr("Sending to OpenAI")
 
         Value {
-            text: section.permissions.hasConsent ? "Allowed" : "Off"
+            text: section.permissions.hasConsent ? qsTr("Allowed") : qsTr("Off")
             color: section.permissions.hasConsent ? SystemColors.secondary : SystemColors.orange
         }
         PushButton {
-            text: "Review…"
+            text: qsTr("Review…")
             onClicked: section.permissions.reviewConsent()
         }
     }
     FormRow {
-        label: "Tokens"
+        label: qsTr("Tokens")
 
         Value {
-            text: section.balance.isUnmetered ? "Unmetered" : section.balance.isKnown ? section.balance.tokens : "—"
+            text: section.balance.isUnmetered ? qsTr("Unmetered") : section.balance.isKnown ? qsTr("%1", "number of tokens").arg(section.balance.tokens) : "—"
         }
         PushButton {
-            text: "Refresh"
+            text: qsTr("Refresh")
             enabled: section.permissions.hasConsent
             onClicked: section.balance.refresh()
         }

@@ -9,16 +9,16 @@ FormSection {
     required property ShortcutProperties shortcuts
     required property SettingsModel settings
 
-    title: "Groups & History"
-    note: "New dictations go into the current group: " + settings.activeGroupName + "."
+    title: qsTr("Groups & History")
+    note: qsTr("New dictations go into the current group: %1.").arg(settings.activeGroupName)
 
     FormRow {
-        label: "Next group"
+        label: qsTr("Next group")
 
         ShortcutRecorder {
             recorder: section.settings.groupShortcutRecorder
             shortcut: section.shortcuts.groupLabel
-            title: "Next group"
+            title: qsTr("Next group")
         }
     }
     FormNote {
@@ -27,12 +27,12 @@ FormSection {
         text: section.shortcuts.groupError
     }
     FormRow {
-        label: "Show or hide history"
+        label: qsTr("Show or hide history")
 
         ShortcutRecorder {
             recorder: section.settings.historyShortcutRecorder
             shortcut: section.shortcuts.historyLabel
-            title: "Show or hide history"
+            title: qsTr("Show or hide history")
         }
     }
     FormNote {
@@ -41,13 +41,13 @@ FormSection {
         text: section.shortcuts.historyError
     }
     FormRow {
-        label: "Groups"
+        label: qsTr("Groups")
 
         Value { text: section.settings.groupCount }
         PushButton {
-            text: "Edit…"
+            text: qsTr("Edit…")
             onClicked: section.settings.editGroups()
-            Accessible.name: "Edit groups"
+            Accessible.name: qsTr("Edit groups")
         }
     }
 }

@@ -13,23 +13,23 @@ FormSection {
 
     onConfirmClearChanged: confirmClear ? confirmation.open() : confirmation.close()
 
-    title: "History"
+    title: qsTr("History")
 
     FormRow {
-        label: "Transcripts on this Mac"
+        label: qsTr("Transcripts on this Mac")
 
         Value { text: section.settings.transcriptCount }
         PushButton {
-            text: "Clear…"
+            text: qsTr("Clear…")
             enabled: section.settings.transcriptCount > 0
             onClicked: section.confirmClear = true
         }
         Confirmation {
             id: confirmation
 
-            title: "Delete all " + section.settings.transcriptCount + " transcripts?"
-            message: "They're stored only on this Mac, so this can't be undone."
-            action: "Delete All"
+            title: qsTr("Delete all %n transcripts?", "", section.settings.transcriptCount)
+            message: qsTr("They're stored only on this Mac, so this can't be undone.")
+            action: qsTr("Delete All")
             onClosed: section.confirmClear = false
             onConfirmed: section.settings.clearHistory()
         }
@@ -39,6 +39,6 @@ FormSection {
         width: parent.width
         topPadding: 4
         horizontalAlignment: Text.AlignHCenter
-        text: "Version " + section.settings.version
+        text: qsTr("Version %1").arg(section.settings.version)
     }
 }

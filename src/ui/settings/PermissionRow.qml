@@ -18,13 +18,13 @@ FormRow {
     }
     Value {
         visible: row.isGranted
-        text: "Allowed"
+        text: qsTr("Allowed")
         color: SystemColors.green
     }
     PushButton {
         visible: !row.isGranted
-        text: "Allow…"
+        text: qsTr("Allow…")
         onClicked: row.fix()
-        Accessible.name: "Allow " + row.label
+        Accessible.name: qsTr("Allow %1").arg(row.label)
     }
 }

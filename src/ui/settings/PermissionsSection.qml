@@ -8,17 +8,17 @@ FormSection {
 
     required property PermissionProperties permissions
 
-    title: "Permissions"
+    title: qsTr("Permissions")
 
     PermissionRow {
-        label: "Microphone"
-        detail: "To hear what you say."
+        label: qsTr("Microphone")
+        detail: qsTr("To hear what you say.")
         isGranted: section.permissions.isMicrophoneGranted
         onFix: section.permissions.fixMicrophone()
     }
     PermissionRow {
-        label: "Accessibility"
-        detail: "To paste into other apps. Without it, text is copied and you press ⌘V."
+        label: qsTr("Accessibility")
+        detail: qsTr("To paste into other apps. Without it, text is copied and you press ⌘V.")
         isGranted: section.permissions.isTrusted
         onFix: section.permissions.fixAccessibility()
     }

@@ -138,7 +138,7 @@ int SettingsModel::groupCount() const
 QString SettingsModel::activeGroupName() const
 {
     const auto active = m_groups.group(m_groups.activeId());
-    return active ? active->name : u"All entries"_s;
+    return active ? active->name : tr("All entries");
 }
 
 void SettingsModel::clearHistory()

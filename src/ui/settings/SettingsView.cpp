@@ -8,6 +8,7 @@
 #include "ui/settings/SettingsModel.h"
 #include "ui/windows/makeViewWindow.h"
 
+#include <QCoreApplication>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QScreen>
@@ -56,7 +57,7 @@ std::unique_ptr<QWindow> SettingsView::makeWindow(QQmlEngine &engine, const Prop
                                 {u"settings"_s, QVariant::fromValue(settings.get())}});
     settings.release()->setParent(view.get());
     view->setResizeMode(QQuickView::SizeRootObjectToView);
-    view->setTitle(u"Quillo Settings"_s);
+    view->setTitle(QCoreApplication::translate("SettingsView", "Quillo Settings"));
     view->setFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowCloseButtonHint);
     followContent(*view);

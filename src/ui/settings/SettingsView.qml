@@ -18,8 +18,13 @@ Rectangle {
     color: SystemColors.window
 
     Shortcut {
-        sequences: ["Ctrl+W"]
+        sequences: ["Ctrl+W", "Escape"]
         onActivated: view.Window.window.close()
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Quit]
+        onActivated: Qt.quit()
     }
 
     Flickable {
@@ -49,10 +54,10 @@ Rectangle {
             GroupsSection { shortcuts: view.shortcuts; settings: view.settings }
             PermissionsSection { permissions: view.permissions }
             FormSection {
-                title: "General"
+                title: qsTr("General")
 
                 FormRow {
-                    label: "Open at login"
+                    label: qsTr("Open at login")
 
                     SwitchControl {
                         checked: view.general.launchesAtLogin
@@ -60,17 +65,17 @@ Rectangle {
                             view.general.launchesAtLogin = checked;
                             checked = Qt.binding(() => view.general.launchesAtLogin);
                         }
-                        Accessible.name: "Open at login"
+                        Accessible.name: qsTr("Open at login")
                     }
                 }
                 FormRow {
-                    label: "Keep recordings that couldn't be sent"
-                    detail: "For seven days. They are sent when the server answers again."
+                    label: qsTr("Keep recordings that couldn't be sent")
+                    detail: qsTr("For seven days. They are sent when the server answers again.")
 
                     SwitchControl {
                         checked: view.general.keepsUnsent
                         onToggled: view.general.keepsUnsent = checked
-                        Accessible.name: "Keep recordings that couldn't be sent"
+                        Accessible.name: qsTr("Keep recordings that couldn't be sent")
                     }
                 }
             }

@@ -23,7 +23,7 @@ Column {
         anchors.right: parent.right
         implicitWidth: Math.max(120, implicitContentWidth) + leftPadding + rightPadding
         isTinted: view.recorder.isRecording
-        text: view.recorder.isRecording ? "Type shortcut…" : view.shortcut
+        text: view.recorder.isRecording ? qsTr("Type shortcut…") : view.shortcut
         onClicked: view.recorder.toggle()
         Accessible.name: view.title + ", " + text
     }
