@@ -1438,10 +1438,6 @@ Hier kann noch nicht diktiert werden.
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>Nehmen Sie Strg, Alt oder Super dazu – oder eine F-Taste –, damit es nicht beim Tippen stört.</translation>
     </message>
-    <message>
-        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
-        <translation>Das kann auf dieser Tastatur kein Kürzel sein. Versuchen Sie ein anderes.</translation>
-    </message>
 </context>
 <context>
     <name>ShortcutRecorder</name>

@@ -1438,10 +1438,6 @@ Dictation can&apos;t work here yet.
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>Add Ctrl, Alt or Super — or use an F-key — so it doesn&apos;t block typing.</translation>
     </message>
-    <message>
-        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
-        <translation>That can&apos;t be a shortcut on this keyboard. Try another one.</translation>
-    </message>
 </context>
 <context>
     <name>ShortcutRecorder</name>

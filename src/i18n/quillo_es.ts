@@ -1438,10 +1438,6 @@ El dictado todavía no puede funcionar aquí.
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>Añada Ctrl, Alt o Súper (o use una tecla F) para que no estorbe al escribir.</translation>
     </message>
-    <message>
-        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
-        <translation>Eso no puede ser un atajo en este teclado. Pruebe otro.</translation>
-    </message>
 </context>
 <context>
     <name>ShortcutRecorder</name>

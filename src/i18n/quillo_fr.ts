@@ -1438,10 +1438,6 @@ La dictée ne peut pas encore fonctionner ici.
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>Ajoutez Ctrl, Alt ou Super – ou une touche F – pour ne pas gêner la saisie.</translation>
     </message>
-    <message>
-        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
-        <translation>Ce ne peut être un raccourci sur ce clavier. Essayez-en un autre.</translation>
-    </message>
 </context>
 <context>
     <name>ShortcutRecorder</name>

@@ -1430,10 +1430,6 @@ Dictation can&apos;t work here yet.
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>入力の妨げにならないよう、Ctrl、Alt、Superのいずれかを加えるか、Fキーを使ってください。</translation>
     </message>
-    <message>
-        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
-        <translation>このキーボードではショートカットにできません。別のものを試してください。</translation>
-    </message>
 </context>
 <context>
     <name>ShortcutRecorder</name>

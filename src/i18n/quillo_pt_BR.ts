@@ -1438,10 +1438,6 @@ O ditado ainda não pode funcionar aqui.
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>Adicione Ctrl, Alt ou Super — ou use uma tecla F — para não atrapalhar a digitação.</translation>
     </message>
-    <message>
-        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
-        <translation>Isso não pode ser um atalho neste teclado. Tente outro.</translation>
-    </message>
 </context>
 <context>
     <name>ShortcutRecorder</name>

@@ -1430,10 +1430,6 @@ Dictation can&apos;t work here yet.
         <source>Add ⌘, ⌥ or ⌃ — or use an F-key — so it doesn&apos;t block typing.</source>
         <translation>请加上 Ctrl、Alt 或 Super，或使用 F 键，以免影响打字。</translation>
     </message>
-    <message>
-        <source>That can&apos;t be a shortcut on this keyboard. Try another one.</source>
-        <translation>在此键盘上不能作为快捷键。请换一个。</translation>
-    </message>
 </context>
 <context>
     <name>ShortcutRecorder</name>

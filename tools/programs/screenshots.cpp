@@ -7,6 +7,7 @@
 #include "ui/consent/DisclosureView.h"
 #include "ui/history/HistoryModel.h"
 #include "ui/hud/HUDModel.h"
+#include "ui/settings/SettingsModel.h"
 #include "ui/style/Paper.h"
 #include "ui/windows/makeViewWindow.h"
 

@@ -50,7 +50,7 @@ Column {
             anchors { left: indicator.right; leftMargin: 8; right: tokens.left; rightMargin: 8; verticalCenter: parent.verticalCenter }
             text: strip.dictation.statusText
             textFormat: Text.PlainText
-            elide: Text.ElideRight
+            wrapMode: Text.Wrap
             font: Paper.sans(13)
             color: Paper.primary
             Accessible.role: Accessible.StatusBar
@@ -62,12 +62,13 @@ Column {
             visible: strip.balance.isKnown
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
             width: visible ? implicitWidth : 0
-            label: visible ? qsTr("%1 tokens", "", Math.min(strip.balance.tokens, 1000)).arg(strip.balance.tokens) : ""
+            label: visible ? qsTr("%1 tokens", "", Math.min(strip.balance.tokens, 1000)).arg(strip.balance.tokens) : "" // qmllint disable type
         }
     }
 
     MetaLabel {
         width: parent.width
+        wrapMode: Text.Wrap
         label: qsTr("%1  next group   ·   %2  hide").arg(strip.shortcuts.groupLabel).arg(strip.shortcuts.historyLabel)
     }
 }

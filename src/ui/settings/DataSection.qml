@@ -27,7 +27,7 @@ FormSection {
         label: qsTr("Tokens")
 
         Value {
-            text: section.balance.isUnmetered ? qsTr("Unmetered") : section.balance.isKnown ? qsTr("%1", "number of tokens").arg(section.balance.tokens) : "—"
+            text: section.balance.isUnmetered ? qsTr("Unmetered") : section.balance.isKnown ? qsTr("%1", "number of tokens").arg(section.balance.tokens) : "—" // qmllint disable type
         }
         PushButton {
             text: qsTr("Refresh")
