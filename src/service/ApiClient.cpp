@@ -13,6 +13,7 @@
 #include <QJsonObject>
 #include <QtConcurrentRun>
 
+#include <coroutine>
 #include <limits>
 #include <utility>
 
@@ -95,7 +96,11 @@ QCoro::Task<Transcript> ApiClient::transcribe(QString filePath)
         throw AIConsentError();
     }
     const QFuture<std::optional<QByteArray>> reading = QtConcurrent::run(content, filePath);
+    const std::weak_ptr<const bool> lifetime = m_lifetime;
     const std::optional<QByteArray> recording = co_await reading;
+    if (lifetime.expired()) {
+        co_await std::suspend_always{}; // the client has gone meanwhile, and with it whoever waits for the text
+    }
     if (!recording) {
         throw ApiError(u"no_audio"_s, ApiError::tr("Couldn't read the recording."), 0);
     }

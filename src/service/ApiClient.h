@@ -12,6 +12,7 @@
 #include <QUrl>
 
 #include <chrono>
+#include <memory>
 #include <optional>
 
 class AIConsent;
@@ -73,4 +74,5 @@ private:
     Clock::Instant m_lastExchange;
     std::optional<QUrl> m_baseUrl;
     DeviceCredential m_device;
+    std::shared_ptr<const bool> m_lifetime = std::make_shared<const bool>(true); ///< expires with the client
 };
