@@ -62,7 +62,7 @@ QString database(const Options &options)
     if (location.isEmpty() && secret.isEmpty()) {
         return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/quillo-backend/backend.db"_s;
     }
-    const auto found = location + secret;
+    QString found = location + secret;
     if (found.contains(u"://"_s) && !Database::isPostgreSql(found)) {
         options.fail(u"database"_s, u"must be a file or a postgresql:// URI"_s);
     }

@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype longestOutput = 1024 * 1024;
+constexpr qsizetype longestOutput = qsizetype{1024} * 1024;
 constexpr int pace = 100; // ms between two looks at whether anybody still waits
 
 /// A file in memory, which has a path for as long as it is open.

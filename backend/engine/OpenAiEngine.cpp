@@ -137,7 +137,8 @@ std::vector<OpenAiEngine::Server *> OpenAiEngine::servers()
     for (auto &server : m_servers) {
         all.push_back(&server);
     }
-    std::ranges::stable_partition(all, [now](const Server *server) { return server->restsUntil.load() <= now; });
+    std::stable_partition(all.begin(), all.end(),
+                          [now](const Server *server) { return server->restsUntil.load() <= now; });
     return all;
 }
 

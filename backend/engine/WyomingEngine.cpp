@@ -22,7 +22,7 @@ namespace {
 constexpr std::chrono::milliseconds pace{100}; // between two looks at whether anybody still waits
 constexpr size_t longestEvent = 1024UL * 1024; // and its data, and its payload
 
-std::string event(const QString &type, QJsonObject data = {}, size_t payload = 0)
+std::string event(const QString &type, const QJsonObject &data = {}, size_t payload = 0)
 {
     QJsonObject header{{u"type"_s, type}};
     if (!data.isEmpty()) {

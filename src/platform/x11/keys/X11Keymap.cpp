@@ -223,7 +223,7 @@ std::optional<uint8_t> X11Keymap::keyForModifier(uint16_t modifier)
 {
     // The usual places first: elsewhere may stand a key that the keyboard does not have.
     auto keys = modifierKeys();
-    std::ranges::stable_partition(keys, [](uint8_t key) { return key < X11Keys::evdevOffset + KEY_F11; });
+    std::stable_partition(keys.begin(), keys.end(), [](uint8_t key) { return key < X11Keys::evdevOffset + KEY_F11; });
     const auto found = std::ranges::find_if(keys, [&](uint8_t key) {
         std::bitset<256> alone;
         alone.set(key);
