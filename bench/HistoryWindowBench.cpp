@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "bench/Bench.h"
+#include "store/newIdentifier.h"
 #include "support/Await.h"
 #include "support/ChildProcess.h"
 #include "support/VirtualDisplay.h"

@@ -36,10 +36,11 @@ private:
         QList<Record> found;
         const bool isRead = readJsonRecords(json, [&](const JsonRecord &object) {
             auto record = decode(object);
-            if (record) {
+            const bool isRecord = record.has_value(); // one that is none makes the whole file unreadable
+            if (isRecord) {
                 found.append(*std::move(record));
             }
-            return record.has_value(); // one that is none makes the whole file unreadable
+            return isRecord;
         });
         if (!isRead) {
             return false;
