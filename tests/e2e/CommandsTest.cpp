@@ -211,7 +211,7 @@ TEST(TrayTest, APanelShowsTheMenuAndTheGroupOfTheRunningProgram)
         const auto place = labels(menu).indexOf(label);
         return place < 0 ? 0 : menu.children[place].id;
     };
-    ASSERT_TRUE(await([&] { return item(u"3600 tokens left"_s) > 0; }))
+    ASSERT_TRUE(await([&] { return item(u"3,600 tokens left"_s) > 0; }))
         << labels(panel.menu()).join(u'|').toStdString();
     panel.choose(item(u"Show History"_s));
     EXPECT_TRUE(await([&] { return item(u"Hide History"_s) > 0; }));

@@ -15,7 +15,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const QString copied = u"Copied — press ⌘V to paste"_s;
+const QString copied = u"Copied — paste with Ctrl+V (Ctrl+Shift+V in a terminal)"_s;
 const QString done = u"Transcribing…"_s; // the last notice before a paste that says nothing
 
 /// Hears every notice of the program.

@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QStandardPaths>
+#include <QTemporaryFile>
 
 using namespace Qt::StringLiterals;
 
@@ -10,6 +11,19 @@ namespace {
 
 // Qt tells the rights of the user apart from those of the owner, who is the same.
 constexpr auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+
+/// Another object of this process may have read the file before, and only that one was told: a copy is read anew.
+bool isDamaged(const QString &path)
+{
+    QFile original(path);
+    QTemporaryFile copy;
+    if (!original.open(QFile::ReadOnly) || !copy.open()) {
+        return false;
+    }
+    copy.write(original.readAll());
+    copy.close();
+    return QSettings(copy.fileName(), QSettings::IniFormat).status() == QSettings::FormatError;
+}
 
 } // namespace
 
@@ -25,16 +39,14 @@ Finding IniPreferences::examine() const
     const QString subject = Finding::tr("Preferences");
     sync();
     const QString path = m_settings.fileName();
-    switch (m_settings.status()) {
-    case QSettings::AccessError:
+    if (m_settings.status() == QSettings::AccessError) {
         return {subject, Finding::Level::Note, Finding::tr("%1 can't be read or written").arg(path),
                 Finding::tr("make it yours: chown and chmod u+rw")};
-    case QSettings::FormatError:
+    }
+    if (isDamaged(path)) {
         return {subject, Finding::Level::Note,
                 Finding::tr("%1 is damaged: what can't be read counts as not set").arg(path),
                 Finding::tr("mend the file or move it away")};
-    case QSettings::NoError:
-        break;
     }
     return {subject, Finding::Level::Good, path};
 }

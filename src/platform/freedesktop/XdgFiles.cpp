@@ -78,7 +78,7 @@ bool writeDurably(const QByteArray &path, const QList<QByteArrayView> &pieces)
 QString withoutLinks(const QString &path)
 {
     const QFileInfo info(path);
-    if (const QString existing = info.canonicalFilePath(); !existing.isEmpty()) {
+    if (QString existing = info.canonicalFilePath(); !existing.isEmpty()) {
         return existing;
     }
     return info.isSymLink() ? info.symLinkTarget() : path;
