@@ -57,7 +57,7 @@ struct Upload {
 };
 
 /// A reply of the backend has some kilobytes; one that goes on and on would fill the memory.
-constexpr qsizetype longestReply = 16 * 1024 * 1024;
+constexpr qsizetype longestReply = qsizetype{16} * 1024 * 1024;
 
 /// Fewer bytes taken than given end the exchange.
 size_t receive(const char *bytes, size_t size, size_t count, void *self)

@@ -22,7 +22,9 @@ bool isDamaged(const QString &path)
     }
     copy.write(original.readAll());
     copy.close();
-    return QSettings(copy.fileName(), QSettings::IniFormat).status() == QSettings::FormatError;
+    const QSettings anew(copy.fileName(), QSettings::IniFormat);
+    anew.allKeys(); // a section is parsed when something of it is asked for
+    return anew.status() == QSettings::FormatError;
 }
 
 } // namespace
