@@ -49,11 +49,11 @@ constexpr qsizetype shorter = 2'000'000;
 const QByteArray first(shorter, 'a');
 const QByteArray second(shorter + 1'000'000, 'b');
 
-/// A process that saves the two contents in turn, in many pieces, until it is killed.
-pid_t startSaver(const QString &path)
+/// Saves the two contents in turn, in many pieces, as long as the process lives.
+[[noreturn]] void saveForEver(const QString &path)
 {
-    const pid_t saver = ::fork();
-    for (XdgFiles files; saver == 0;) {
+    XdgFiles files;
+    while (true) {
         for (const QByteArrayView content : {first, second}) {
             QList<QByteArrayView> pieces;
             for (qsizetype start = 0; start < content.size(); start += 10'000) {
@@ -61,6 +61,14 @@ pid_t startSaver(const QString &path)
             }
             files.replace(path, pieces);
         }
+    }
+}
+
+pid_t startSaver(const QString &path)
+{
+    const pid_t saver = ::fork();
+    if (saver == 0) {
+        saveForEver(path);
     }
     return saver;
 }
