@@ -183,7 +183,7 @@ TEST_F(ApiClientTest, EveryReplyThatIsNoSuccessBecomesItsError)
         {{200, R"({"balance":7,"unmetered":1})"}, u"server_error"_s, somethingWrong, 200},
         {{200, R"({"balance":7})", Ending::CutInBody}, u"network"_s, networkError, 0},
         {{200, "", Ending::CloseWithoutReply}, u"network"_s, networkError, 0},
-        {{200, QByteArray(16 * 1024 * 1024, ' ') + R"({"balance":7})"}, u"network"_s, networkError, 0},
+        {{200, QByteArray(qsizetype{16} * 1024 * 1024, ' ') + R"({"balance":7})"}, u"network"_s, networkError, 0},
     };
     for (const Row &row : table) {
         SCOPED_TRACE(row.reply.body.left(60).toStdString());
@@ -397,6 +397,7 @@ TEST_F(ApiClientTest, RequestsDoNotWaitForEachOther)
     };
     auto api = client();
     std::vector<QCoro::Task<Balance>> unanswered;
+    unanswered.reserve(12);
     for (int i = 0; i < 12; ++i) {
         unanswered.push_back(api.balance());
     }

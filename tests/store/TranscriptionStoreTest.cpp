@@ -79,7 +79,7 @@ TEST_F(TranscriptionStoreTest, TheFileIsTheDocumentedOne)
     store.add(u"older"_s, std::nullopt);
     clock.advance(1999ms);
     store.add(u"line\n\r\"quoted\" \\ \t\u0001\u001f ünï/🎙"_s, u"work"_s);
-    const auto ids = QPair(store.items().at(0).id.toUtf8(), store.items().at(1).id.toUtf8());
+    const auto ids = std::pair(store.items().at(0).id.toUtf8(), store.items().at(1).id.toUtf8());
     EXPECT_EQ(content(), R"([{"id":")" + ids.first +
                              R"(","text":"line\n\r\"quoted\" \\ \t\u0001\u001f ünï/🎙",)"
                              R"("timestamp":"2026-01-31T12:00:01Z","categoryId":"work"},{"id":")" +
