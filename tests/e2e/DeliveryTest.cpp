@@ -18,17 +18,21 @@ namespace {
 const QString copied = u"Copied — paste with Ctrl+V (Ctrl+Shift+V in a terminal)"_s;
 const QString done = u"Transcribing…"_s; // the last notice before a paste that says nothing
 
-/// Hears every notice of the program.
+/// Starts the program and hears every notice of it.
 class Notices {
 public:
-    explicit Notices(const Desktop &desktop)
+    explicit Notices(Desktop &desktop)
         : m_listener(u"/usr/bin/python3"_s, {QStringLiteral(NOTICE_LISTENER)}, desktop.environment())
     {
-        // A program tells only from the time on when it has heard that somebody listens.
-        const bool isHeard = await([&] {
-            desktop.command({u"next-group"_s});
-            return await([this] { return !all().isEmpty(); }, 1s);
-        });
+        // The accessibility bus is there when somebody listens, and the program looks for it once, when it starts. It
+        // tells only from the time on when it has heard that somebody listens.
+        const bool isListening = await([this] { return m_listener.process().canReadLine(); });
+        m_listener.process().readLine();
+        desktop.start();
+        const bool isHeard = isListening && await([&] {
+                                 desktop.command({u"next-group"_s});
+                                 return await([this] { return !all().isEmpty(); }, 1s);
+                             });
         if (!isHeard) {
             throw std::runtime_error("no notice is heard: " +
                                      m_listener.process().readAllStandardError().toStdString());
@@ -118,7 +122,6 @@ protected:
         EXPECT_TRUE(groups.open(QIODevice::WriteOnly));
         groups.write(R"([{"id":"A","name":"Work","kind":"folder"}])"); // so that a change of group is another notice
         groups.close();
-        made->start();
         return made;
     }
 

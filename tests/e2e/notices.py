@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Prints each notice that appears on the screen, as a screen reader is told of it, one a line, until it is ended."""
+"""Prints each notice that appears on the screen, as a screen reader is told of it, one a line after a first line
+that says it listens, until it is ended."""
 
 import warnings
 
@@ -21,4 +22,5 @@ listener = Atspi.EventListener.new(take)
 # Changes of names keep those that are known here up to date.
 listener.register("object:property-change:accessible-name")
 listener.register("object:state-changed:showing")
+print("listening", flush=True)
 Atspi.event_main()
